@@ -1,0 +1,46 @@
+#include "virtual_module/fault.h"
+
+namespace virtual_module {
+namespace {
+
+constexpr FaultRow faultRows[] = {
+    {Fault::Silent, "silent", "never polls and never answers"},
+    {Fault::SilentAfterIdentity, "silent-after-identity",
+     "gives its identity and nothing after it"},
+    {Fault::SilentAfterCommand, "silent-after-command", "takes a command and does not answer it"},
+    {Fault::StopsWithinLine, "stops-within-line",
+     "goes silent within the line in the middle of a read"},
+    {Fault::NoStop, "no-stop", "sends every cell of a read, no STOP, and then nothing"},
+    {Fault::ShortStream, "short-stream", "sends the first half of the cells of a read, then STOP"},
+    {Fault::OutOfOrder, "out-of-order",
+     "shuffles the cells of a read by the seed, but for the last one"},
+    {Fault::CorruptDigits, "corrupt-digits",
+     "puts an \"x\" within the value of every tenth line of a read"},
+    {Fault::WrongIdentity, "wrong-identity", "gives the identity of another kind"},
+    {Fault::UnknownIdentity, "unknown-identity", "gives the identity DISPLX"},
+    {Fault::IndexBeyondTable, "index-beyond-table",
+     "puts an index past the table into the line in the middle of a read (a plain table of 1000 "
+     "cells has none and is read as ever)"},
+    {Fault::TooManyLines, "too-many-lines",
+     "repeats the first cell eight times before the last one of a read"},
+    {Fault::PollDuringIdentity, "poll-during-identity",
+     "answers the first wake-up with one more poll, and behaves from the second on"},
+    {Fault::VanishInRead, "vanish-in-read", "the port disappears after half of a read"},
+    {Fault::VanishInWrite, "vanish-in-write",
+     "the port disappears after half of a write, at the latest after 20 frames"},
+};
+
+}  // namespace
+
+std::span<const FaultRow> Faults() { return faultRows; }
+
+std::optional<Fault> FaultByName(std::string_view name) {
+  for (const FaultRow& row : faultRows) {
+    if (row.name == name) {
+      return row.fault;
+    }
+  }
+  return std::nullopt;
+}
+
+}  // namespace virtual_module
