@@ -23,7 +23,9 @@ class Chance {
   std::mt19937 source_;
 };
 
-int& At(Cells& cells, int index) { return cells.at(static_cast<std::size_t>(index)); }
+int& At(Cells& cells, int index) {
+  return cells.at(static_cast<std::size_t>(index));
+}
 
 void FillRange(Cells& cells, int first, int last, int low, int high, Chance& chance) {
   for (int cell = first; cell <= last; ++cell) {
@@ -34,7 +36,8 @@ void FillRange(Cells& cells, int first, int last, int low, int high, Chance& cha
 void PutText(Cells& cells, int first, int width, std::string_view text) {
   for (int i = 0; i < width; ++i) {
     const auto position = static_cast<std::size_t>(i);
-    At(cells, first + i) = position < text.size() ? static_cast<unsigned char>(text[position]) : ' ';
+    At(cells, first + i) =
+        position < text.size() ? static_cast<unsigned char>(text[position]) : ' ';
   }
 }
 

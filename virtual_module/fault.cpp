@@ -32,7 +32,9 @@ constexpr FaultRow faultRows[] = {
 
 }  // namespace
 
-std::span<const FaultRow> Faults() { return faultRows; }
+std::span<const FaultRow> Faults() {
+  return faultRows;
+}
 
 std::optional<Fault> FaultByName(std::string_view name) {
   for (const FaultRow& row : faultRows) {

@@ -180,17 +180,10 @@ struct FixedRow {
 };
 
 constexpr FixedRow fixedRows[] = {
-    {0, ButtonImage, 121, 163},
-    {1, ButtonImage, 121, 163},
-    {2, TempHeader, 0, 3},
-    {3, LcdHeader, 0, 1},
-    {4, ButtonImage, 121, 163},
-    {5, AlarmImage, 121, 148},
-    {6, AudioImage, 121, 123},
-    {7, SimulationImage, 121, 124},
-    {8, IrImage, 121, 124},
-    {9, ButtonImage, -1, 163},
-    {11, ButtonImage, 121, 163},
+    {0, ButtonImage, 121, 163}, {1, ButtonImage, 121, 163},     {2, TempHeader, 0, 3},
+    {3, LcdHeader, 0, 1},       {4, ButtonImage, 121, 163},     {5, AlarmImage, 121, 148},
+    {6, AudioImage, 121, 123},  {7, SimulationImage, 121, 124}, {8, IrImage, 121, 124},
+    {9, ButtonImage, -1, 163},  {11, ButtonImage, 121, 163},
 };
 
 // The rows between the first and the last that `fits`; they stand together in the table.
@@ -203,9 +196,8 @@ std::span<const Row> RowsThat(std::span<const Row> rows, Fits fits) {
 
 template <typename Row>
 std::span<const Row> RowsOfCommand(std::span<const Row> rows, int kind, std::string_view command) {
-  return RowsThat(rows, [kind, command](const Row& row) {
-    return row.kind == kind && row.command == command;
-  });
+  return RowsThat(
+      rows, [kind, command](const Row& row) { return row.kind == kind && row.command == command; });
 }
 
 const FixedRow& FixedCellsOf(int kind) {
@@ -219,7 +211,9 @@ const FixedRow& FixedCellsOf(int kind) {
 
 }  // namespace
 
-std::span<const KindRow> Kinds() { return kindRows; }
+std::span<const KindRow> Kinds() {
+  return kindRows;
+}
 
 const KindRow& KindOf(int kind) {
   const auto* row = std::find_if(std::begin(kindRows), std::end(kindRows),

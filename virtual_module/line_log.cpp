@@ -57,6 +57,8 @@ void LineLog::WriteOpenPolls(const Module& module) {
   }
 }
 
-void LineLog::WriteRecord(const FrameRecord& record) { file_ << LogLine(record) << std::endl; }
+void LineLog::WriteRecord(const FrameRecord& record) {
+  file_ << LogLine(record) << std::endl;
+}
 
 }  // namespace virtual_module

@@ -18,12 +18,14 @@
 namespace virtual_module {
 namespace {
 
-constexpr std::size_t unreadPolls = 64;  // as many as may wait while nobody reads
-constexpr std::int64_t longestWait = 20000;  // us; a tool's mark of exclusive use is taken back then
+constexpr std::size_t unreadPolls = 64;      // as many as may wait while nobody reads
+constexpr std::int64_t longestWait = 20000;  // us; then a tool's exclusive use is taken back
 
 volatile std::sig_atomic_t ended = 0;
 
-void End(int) { ended = 1; }
+void End(int) {
+  ended = 1;
+}
 
 // Lets the signals that end the program through only while it waits, so that none is missed.
 // Gives the mask to wait with.
@@ -117,7 +119,9 @@ class Session {
  private:
   // Polls that nobody reads are lost: a tool that opens the port later must not find old ones.
   void Send(const std::string& characters) {
-    if (module_.polling() && terminal_.Unread() >= unreadPolls) {
+    const bool onlyPolls =
+        module_.polling() && characters.find_first_not_of('M') == std::string::npos;
+    if (onlyPolls && terminal_.Unread() >= unreadPolls) {
       return;
     }
     terminal_.Send(characters);

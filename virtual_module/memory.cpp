@@ -79,9 +79,8 @@ class LineReader {
 
   void ExpectEnd() {
     const auto rest = lines_.begin() + static_cast<std::ptrdiff_t>(next_);
-    const auto extra = std::find_if(rest, lines_.end(), [](const std::string& line) {
-      return !WithoutBlanks(line).empty();
-    });
+    const auto extra = std::find_if(
+        rest, lines_.end(), [](const std::string& line) { return !WithoutBlanks(line).empty(); });
     if (extra != lines_.end()) {
       next_ = static_cast<std::size_t>(extra - lines_.begin()) + 1;
       Fail("the file goes on after its last cell");
@@ -136,13 +135,17 @@ Memory::Memory(int kind) : kind_(KindOf(kind).kind) {
   }
 }
 
-std::vector<int>& Memory::Cells(TableName table) { return CellsIn(tables_, kind_, table); }
+std::vector<int>& Memory::Cells(TableName table) {
+  return CellsIn(tables_, kind_, table);
+}
 
 const std::vector<int>& Memory::Cells(TableName table) const {
   return CellsIn(tables_, kind_, table);
 }
 
-std::vector<int>& Memory::Cells(std::string_view table) { return Cells(KnownName(table)); }
+std::vector<int>& Memory::Cells(std::string_view table) {
+  return Cells(KnownName(table));
+}
 
 const std::vector<int>& Memory::Cells(std::string_view table) const {
   return Cells(KnownName(table));

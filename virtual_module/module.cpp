@@ -9,7 +9,9 @@
 namespace virtual_module {
 namespace {
 
-constexpr Thirds Milliseconds(std::int64_t count) { return count * 1000 * thirdsPerMicrosecond; }
+constexpr Thirds Milliseconds(std::int64_t count) {
+  return count * 1000 * thirdsPerMicrosecond;
+}
 
 constexpr Thirds pollPeriod = Milliseconds(50);
 // The tool drops what has come in by the end of its burst, so the answer waits for a quiet line.
@@ -24,8 +26,7 @@ constexpr int vanishingFrames = 20;
 }  // namespace
 
 Module::Module(Options options)
-    : options_(std::move(options)),
-      pollForIdentity_(options_.fault == Fault::PollDuringIdentity) {
+    : options_(std::move(options)), pollForIdentity_(options_.fault == Fault::PollDuringIdentity) {
   if (KindOf(options_.kind).kind != options_.memory.kind()) {
     throw std::invalid_argument("the memory is of another kind than the module");
   }
@@ -208,9 +209,8 @@ std::string Module::Identity() const {
     return std::string(KindOf(options_.kind).identity);
   }
   const std::span<const KindRow> kinds = Kinds();
-  const auto own = std::find_if(kinds.begin(), kinds.end(), [this](const KindRow& row) {
-    return row.kind == options_.kind;
-  });
+  const auto own = std::find_if(kinds.begin(), kinds.end(),
+                                [this](const KindRow& row) { return row.kind == options_.kind; });
   const auto next = own + 1 == kinds.end() ? kinds.begin() : own + 1;
   return std::string(next->identity);
 }
@@ -239,8 +239,8 @@ void Module::CompleteLine(std::string error) {
   FrameRecord record = std::exchange(line_, {});
   const std::string command = record.text.substr(0, record.text.find('\r'));
   const bool shapedAsCommand = command.size() == commandLength && command.front() == 'T';
-  const bool known = !ReadRowsOf(options_.kind, command).empty() ||
-                     !WriteRowsOf(options_.kind, command).empty();
+  const bool known =
+      !ReadRowsOf(options_.kind, command).empty() || !WriteRowsOf(options_.kind, command).empty();
   const bool heard = state_ == State::AwaitingCommand || state_ == State::Silent;
   record.kind = shapedAsCommand ? UnitKind::Command : UnitKind::Noise;
   record.error = std::move(error);

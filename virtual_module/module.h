@@ -52,7 +52,7 @@ class Module {
   const std::vector<FrameRecord>& sent() const { return transmitter_.sent(); }
   const std::optional<FrameRecord>& openPolls() const { return transmitter_.polls(); }
 
-  int errors() const;  // received units with an error text
+  int errors() const;                                       // received units with an error text
   int completedReads() const { return completedReads_; }    // sent up to the end of the answer
   int completedWrites() const { return completedWrites_; }  // last cell of the chain arrived
 

@@ -84,7 +84,9 @@ PseudoTerminal::PseudoTerminal(std::filesystem::path link) : link_(std::move(lin
   PlaceLink(device_, link_);
 }
 
-PseudoTerminal::~PseudoTerminal() { Close(); }
+PseudoTerminal::~PseudoTerminal() {
+  Close();
+}
 
 bool PseudoTerminal::Wait(std::int64_t timeoutMicroseconds, const sigset_t& signals) {
   pollfd waiting{.fd = near_, .events = POLLIN, .revents = 0};
@@ -125,7 +127,9 @@ std::size_t PseudoTerminal::Unread() const {
   return ioctl(far_, FIONREAD, &count) == 0 ? static_cast<std::size_t>(count) : 0;
 }
 
-void PseudoTerminal::AllowOthers() { ioctl(far_, TIOCNXCL); }
+void PseudoTerminal::AllowOthers() {
+  ioctl(far_, TIOCNXCL);
+}
 
 void PseudoTerminal::Close() {
   if (near_ < 0) {

@@ -9,7 +9,9 @@ namespace {
 constexpr std::size_t pacedLength = 7;
 constexpr std::size_t longestFrame = 16;  // what goes on behind it is not a frame any more
 
-bool IsDigit(char character) { return character >= '0' && character <= '9'; }
+bool IsDigit(char character) {
+  return character >= '0' && character <= '9';
+}
 
 // The number that a text of one to three digits stands for, else -1.
 int NumberOf(std::string_view text) {
@@ -23,14 +25,17 @@ int NumberOf(std::string_view text) {
   return number;
 }
 
-bool HasLeadingZero(std::string_view value) { return value.size() > 1 && value.front() == '0'; }
+bool HasLeadingZero(std::string_view value) {
+  return value.size() > 1 && value.front() == '0';
+}
 
-int BlockSize(const WriteRow& row) { return row.last - row.first + 1; }
+int BlockSize(const WriteRow& row) {
+  return row.last - row.first + 1;
+}
 
 }  // namespace
 
-WriteChain::WriteChain(std::string_view command, Memory& memory,
-                       std::vector<FrameRecord>& records)
+WriteChain::WriteChain(std::string_view command, Memory& memory, std::vector<FrameRecord>& records)
     : command_(command),
       memory_(memory),
       records_(records),
@@ -116,8 +121,8 @@ void WriteChain::Take(FrameRecord& record) {
     record.error = FormError(value, lineEnd);
   }
   if (record.error.empty() && record.wireIndex != due_) {
-    record.error = "index " + std::to_string(record.wireIndex) + " where " +
-                   std::to_string(due_) + " was due";
+    record.error =
+        "index " + std::to_string(record.wireIndex) + " where " + std::to_string(due_) + " was due";
   }
   if (readable && record.wireIndex < BlockSize(rows_[block_])) {
     Store(record);
