@@ -2,6 +2,7 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <poll.h>
+#include <sys/inotify.h>
 #include <sys/ioctl.h>
 #include <sys/wait.h>
 #include <termios.h>
@@ -149,6 +150,32 @@ class Port {
   int descriptor_;
 };
 
+std::string TextOfFile(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+// Waits until a file that is being written holds the text.
+bool WaitForText(const fs::path& path, std::string_view text) {
+  const SteadyTime deadline = Deadline();
+  const int changes = inotify_init1(IN_CLOEXEC);
+  inotify_add_watch(changes, path.c_str(), IN_MODIFY);
+  bool found = TextOfFile(path).find(text) != std::string::npos;
+  while (!found) {
+    const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(
+        deadline - std::chrono::steady_clock::now());
+    pollfd waiting{.fd = changes, .events = POLLIN, .revents = 0};
+    std::array<char, 4096> events{};
+    if (left.count() <= 0 || poll(&waiting, 1, static_cast<int>(left.count())) <= 0 ||
+        read(changes, events.data(), events.size()) <= 0) {
+      break;
+    }
+    found = TextOfFile(path).find(text) != std::string::npos;
+  }
+  close(changes);
+  return found;
+}
+
 class ProgramTest : public testing::Test {
  protected:
   void SetUp() override {
@@ -160,10 +187,7 @@ class ProgramTest : public testing::Test {
   void TearDown() override { fs::remove_all(directory_); }
 
   std::string Path(const char* name) const { return (directory_ / name).string(); }
-  std::string TextOf(const char* name) const {
-    std::ifstream file(directory_ / name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-  }
+  std::string TextOf(const char* name) const { return TextOfFile(directory_ / name); }
 
   fs::path directory_;
 };
@@ -226,11 +250,8 @@ TEST_F(ProgramTest, AToolThatReadsLateLosesNothingOfAnAnswer) {
   const Port port(Path("com1"));
   port.Wake();
   port.Write("T80000\r");
-  const SteadyTime deadline = Deadline();
-  while (TextOf("line.txt").find("STOP") == std::string::npos &&
-         std::chrono::steady_clock::now() < deadline) {
-    poll(nullptr, 0, 20);  // the answer fills the buffers meanwhile
-  }
+  // The answer fills the buffers meanwhile.
+  EXPECT_TRUE(WaitForText(directory_ / "line.txt", "STOP"));
   EXPECT_EQ(LinesOf(port.Until("STOP\r")).size(), 1U + 185U + 1U);
 }
 
