@@ -1,0 +1,17 @@
+#include "image/table.h"
+
+#include <string>
+
+#include "platform/runtime_error.h"
+
+namespace bkconf {
+
+std::size_t Table::Checked(int index) const {
+  if (index < 0 || index >= Size()) {
+    throw RuntimeError(ErrorKind::IndexOutsideTable,
+                       std::string(name) + "[" + std::to_string(index) + "]");
+  }
+  return static_cast<std::size_t>(index);
+}
+
+}  // namespace bkconf

@@ -1,0 +1,152 @@
+#include "link/cell_handlers.h"
+
+#include <array>
+#include <string_view>
+
+#include "link/read_table.h"
+#include "link/transfer.h"
+#include "session/language.h"
+
+namespace bkconf {
+namespace {
+
+/// The number in the characters `first` to `last` of the line, counted from 1; what the line does not
+/// have counts as nothing.
+int NumberAt(std::size_t first, std::size_t last) {
+  const std::string_view line = RxLine;
+  if (line.size() < first) return 0;
+  return LenientNumber(line.substr(first - 1, last - first + 1));
+}
+
+/// The character that selects the table on the lines of kinds 2 and 3.
+char TableDigit() { return RxLine.size() < 2 ? '\0' : RxLine[1]; }
+
+const ReadRow* PendingRead() {
+  return FindReadRow(ActiveCode(), PendingCommand.Text());
+}
+
+/// What only some kinds do when their base table is complete.
+void FinishBaseRead() {
+  constexpr KindSet comparesVersion{0, 1, 4, 11};
+  if (comparesVersion.Contains(ActiveCode())) ModuleVersion = ButtonImage[163];
+  if (ActiveCode() == 9) {
+    MasterBaseDirty = MasterContextsDirty = MasterTimeDirty = MasterLightDirty = 0;
+    Raise(LinkEvent::ModuleListRead);
+  }
+  Window.showModuleCells();
+  CloseRead();
+}
+
+/// Kinds 0, 1, 4, 5, 6, 7, 8, 9 and 11: one table a command, characters 1 and 2 not looked at. The
+/// cells of the master's scan move no bar.
+void HandleTableLine(const ReadRow& row) {
+  const int index = NumberAt(3, 5);
+  if (row.barMaximum > 0) Window.bar->Advance();
+  (*row.table)[index] = NumberAt(6, 8);
+  if (index != row.lastIndex) return;
+  if (row.command == ReadBase) {
+    FinishBaseRead();
+  } else if (row.command == Test4) {
+    Raise(LinkEvent::ModuleListRead);
+  } else {
+    // The master's additional tables: the window is free again when "STOP" has come, since their
+    // screens open then.
+    Window.bar->visible = false;
+    Show(Window.status->caption, TextId::EditMode);
+  }
+}
+
+struct TemperatureRow {
+  char digit;
+  Table* table;
+  int lastIndex;       ///< -1 where the table's last cell ends no read
+  Cell* cleared;       ///< the dirty flag that each line clears, or null
+};
+
+constexpr std::array<TemperatureRow, 5> TemperatureRows = {{
+    {'1', &TempHeader, 3, &TempHeaderDirty},
+    {'2', &TempRoomIds, -1, nullptr},
+    {'3', &TempPeriods, -1, nullptr},
+    {'4', &TempSetpoints, 335, &TempProgramDirty},
+    {'5', &TempTail, 81, &TempRoomsDirty},
+}};
+
+/// The last cell of the live temperatures: that of room 8.
+constexpr int LastLiveTemperature = 71;
+
+void HandleTemperatureLine() {
+  for (const TemperatureRow& row : TemperatureRows) {
+    if (row.digit != TableDigit()) continue;
+    const int index = NumberAt(3, 5);
+    Window.bar->Advance();
+    (*row.table)[index] = NumberAt(6, 8);
+    if (row.cleared != nullptr) *row.cleared = 0;
+    const bool live = row.table == &TempRoomIds && PendingCommand.Text() == Read3;
+    if (live) Raise(LinkEvent::LiveTemperature);
+    if (index != (live ? LastLiveTemperature : row.lastIndex)) return;
+    if (row.table == &TempHeader) {
+      TempRoomCount = TempHeader[1];
+      FinishBaseRead();
+    } else {
+      CloseRead();
+      Raise(LinkEvent::TemperatureRead);
+    }
+    return;
+  }
+  // A digit that names no table: nothing is stored, and the read goes on.
+}
+
+struct DisplayRow {
+  char digit;
+  Table* table;
+  int address;        ///< of cell 0
+  int lastIndex;
+};
+
+constexpr std::array<DisplayRow, 6> DisplayRows = {{
+    {'1', &LcdHeader, 1000, 1},
+    {'2', &LcdScreen1, 2000, 1019},
+    {'3', &LcdScreen1, 2000, 1019},
+    {'4', &LcdScreen2, 4000, 1019},
+    {'5', &LcdScreen2, 4000, 1019},
+    {'6', &LcdWeekdayNames, 6000, 20},
+}};
+
+/// Lines of the display module carry a four-digit address in characters 2 to 5.
+void HandleDisplayLine() {
+  for (const DisplayRow& row : DisplayRows) {
+    if (row.digit != TableDigit()) continue;
+    const int index = NumberAt(2, 5) - row.address;
+    (*row.table)[index] = NumberAt(6, 8);
+    Window.bar->Advance();
+    if (index != row.lastIndex) return;
+    if (row.table == &LcdHeader) {
+      FinishBaseRead();
+      return;
+    }
+    CloseRead();
+    // "STOP" does nothing more after a display's table.
+    if (row.table != &LcdWeekdayNames) UnlockMenus();
+    Raise(LinkEvent::DisplayRead);
+    return;
+  }
+}
+
+}  // namespace
+
+bool HandleCellLine() {
+  const int kind = ActiveCode();
+  if (ActiveKind() == nullptr) return false;
+  if (kind == 2) {
+    HandleTemperatureLine();
+  } else if (kind == 3) {
+    HandleDisplayLine();
+  } else if (const ReadRow* row = PendingRead()) {
+    HandleTableLine(*row);
+  } else {
+    Raise(LinkEvent::TestLineReceived);
+  }
+  return true;
+}
+
+}  // namespace bkconf

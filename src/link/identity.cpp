@@ -1,0 +1,76 @@
+#include "link/identity.h"
+
+#include <algorithm>
+
+#include "link/link_ticks.h"
+#include "link/read_table.h"
+#include "link/transfer.h"
+#include "link/write_table.h"
+#include "platform/machine.h"
+#include "session/language.h"
+
+namespace bkconf {
+namespace {
+
+constexpr int CommandPeriod = 30;
+
+void SetUpWrite(const WriteRow& row) {
+  Window.bar->Start(row.barMaximum);
+  Show(Window.status->caption, row.status);
+}
+
+void SetUpRead(const ReadRow& row) {
+  Window.bar->Start(row.barMaximum);
+  // The scan of modules has no count of lines to show.
+  Window.bar->visible = row.barMaximum > 0;
+  Show(Window.status->caption, row.status);
+  // A read that a Send repeats is nobody's: no screen waits for it.
+  if (WriteInProgress.Number() == 0 && row.command != ReadBase) Raise(LinkEvent::TableReadStarted);
+}
+
+void SetUpTest() {
+  Window.bar->visible = false;
+  Show(Window.status->caption, TextId::Diagnosing);
+  Raise(LinkEvent::TestStarted);
+}
+
+/// Shows what module was found and prepares for the pending command.
+void SetUp(const ModuleKind& kind) {
+  Window.showKind(kind);
+  CommandSend.SetPeriod(CommandPeriod);
+  CommandSend.Enable();
+  const std::string command = PendingCommand.Text();
+  const WriteRow* write = FindWriteRow(kind.code, command);
+  // A Send with nothing to write repeats the last command. If that was a read, it is a read again.
+  if (WriteInProgress.Number() == 1 && write != nullptr) {
+    SetUpWrite(*write);
+  } else if (const ReadRow* read = FindReadRow(kind.code, command)) {
+    SetUpRead(*read);
+  } else {
+    SetUpTest();
+  }
+}
+
+}  // namespace
+
+const ModuleKind* KindOfIdentity(std::string_view line) {
+  const auto kind =
+      std::find_if(ModuleKinds.begin(), ModuleKinds.end(),
+                   [line](const ModuleKind& each) { return line.starts_with(each.identity); });
+  return kind == ModuleKinds.end() ? nullptr : &*kind;
+}
+
+void TestIdentity() {
+  const ModuleKind* kind = KindOfIdentity(RxLine);
+  if (kind == nullptr || (ActiveCode() != NoModule && ActiveCode() != kind->code)) {
+    Messages->Tell(std::string(Text(TextId::WrongModule)));
+    LeaveTransfer();
+    return;
+  }
+  // The acknowledge of the command starts on an empty line.
+  RxLine.clear();
+  ActiveModuleType = kind->code;
+  SetUp(*kind);
+}
+
+}  // namespace bkconf

@@ -1,0 +1,66 @@
+#include "platform/field.h"
+
+#include <algorithm>
+
+#include "platform/runtime_error.h"
+
+namespace bkconf {
+
+Field::Field(Screen& screen, FieldKind fieldKind, std::string_view fieldName)
+    : kind(fieldKind), name(fieldName) {
+  screen.fields.push_back(this);
+}
+
+void ListField::Show(std::string_view text) {
+  text_ = text;
+  const auto item = std::find(items.begin(), items.end(), text_);
+  index_ = item == items.end() ? -1 : static_cast<int>(item - items.begin());
+}
+
+void ListField::Pick(int index) {
+  if (!enabled || !visible || index < 0 || index >= static_cast<int>(items.size())) return;
+  index_ = index;
+  text_ = items[static_cast<std::size_t>(index)];
+  if (onPick) onPick();
+}
+
+void ListField::Type(std::string_view text) {
+  if (!enabled || !visible) return;
+  Show(text);
+  if (onTyped) onTyped();
+}
+
+void ProgressField::Start(int maximum) {
+  maximum_ = maximum;
+  value_ = 0;
+  visible = true;
+}
+
+void ProgressField::SetValue(int value) {
+  if (value > maximum_) {
+    throw RuntimeError(ErrorKind::BarPastMaximum,
+                       name + ": " + std::to_string(value) + " > " + std::to_string(maximum_));
+  }
+  value_ = value;
+  if (draw) draw();
+}
+
+MenuField::MenuField(Screen& screen, MenuField* parent, std::string_view fieldName)
+    : Field(screen, FieldKind::Menu, fieldName), parent_(parent) {
+  if (parent != nullptr) parent->entries.push_back(this);
+}
+
+bool MenuField::Usable() const {
+  for (const MenuField* menu = parent_; menu != nullptr; menu = menu->parent_) {
+    if (!menu->enabled || !menu->visible) return false;
+  }
+  return enabled && visible && onClick;
+}
+
+Field* Screen::Find(std::string_view fieldName) const {
+  const auto field = std::find_if(fields.begin(), fields.end(),
+                                  [&](const Field* each) { return each->name == fieldName; });
+  return field == fields.end() ? nullptr : *field;
+}
+
+}  // namespace bkconf

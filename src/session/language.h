@@ -1,0 +1,29 @@
+// Texts in the language of the session. All code that shows a text comes here.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "session/state.h"
+#include "text/text.h"
+
+namespace bkconf {
+
+/// The text in the language of this moment; empty while `Language` is neither 1 nor 2.
+inline std::string_view Text(TextId id) {
+  if (Language.Number() == 1) return TextOf(id).dutch;
+  if (Language.Number() == 2) return TextOf(id).french;
+  return {};
+}
+
+/// Puts the text into a caption or status. While `Language` is neither 1 nor 2 what stands there
+/// stays, except that a text which is the same in both languages needs no language.
+inline void Show(std::string& caption, TextId id) {
+  if (TextOf(id).sameOnPurpose) {
+    caption = TextOf(id).dutch;
+  } else if (Language.Number() == 1 || Language.Number() == 2) {
+    caption = Text(id);
+  }
+}
+
+}  // namespace bkconf

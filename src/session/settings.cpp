@@ -1,0 +1,79 @@
+#include "session/settings.h"
+
+#include "platform/machine.h"
+
+namespace bkconf {
+namespace {
+
+#ifdef _WIN32
+constexpr char Separator = '\\';
+#else
+constexpr char Separator = '/';
+#endif
+
+std::function<void()> sessionStarted;
+std::function<void(const std::string&)> settingAwaited;
+const Setting* nextSetting = nullptr;
+
+/// Reads on from where the last try stopped: what was read stands.
+void ReadSettings() {
+  for (; nextSetting != Settings.end(); ++nextSetting) {
+    if (ReadSetting(*nextSetting)) continue;
+    if (!SettingsRetry.Enabled()) {
+      settingAwaited(SettingsPath(nextSetting->file));
+      SettingsRetry.Enable();
+    }
+    return;
+  }
+  SettingsRetry.Disable();
+  sessionStarted();
+}
+
+void RetrySettings() {
+  // The messages of this time could be in the wrong language otherwise.
+  ReadSetting(Settings.front());
+  ReadSettings();
+}
+
+}  // namespace
+
+Tick SettingsRetry{"SettingsRetry", 100, RetrySettings};
+
+std::string SettingsPath(std::string_view fileName) {
+  return SettingsDirectory + Separator + std::string(fileName);
+}
+
+bool ReadSetting(const Setting& setting) {
+  const auto content = FileSystem->Read(SettingsPath(setting.file));
+  if (!content) return false;
+  if (content->empty() && !setting.mayBeEmptyFile) return false;
+  const std::string line = content->substr(0, content->find_first_of("\r\n"));
+  const auto first = line.find_first_not_of(' ');
+  const std::string text = first == std::string::npos ? "" : line.substr(first);
+  if (setting.isNumber) {
+    *setting.value = ReadsAsNumber(text).value_or(0);
+  } else {
+    *setting.value = text;
+  }
+  return true;
+}
+
+void StoreLanguage() {
+  FileSystem->Write(SettingsPath("country.vdm"), Language.PrintForm() + "\r\n");
+}
+
+void StorePortNumber() {
+  FileSystem->Write(SettingsPath("port.vdm"), PortNumber.Text() + "\r\n");
+}
+
+void StartSession(std::function<void()> done,
+                  std::function<void(const std::string& path)> awaited) {
+  for (const Flag& flag : StartUpFlags) *flag.cell = 0;
+  ActiveModuleType = NoModule;
+  sessionStarted = std::move(done);
+  settingAwaited = std::move(awaited);
+  nextSetting = Settings.begin();
+  ReadSettings();
+}
+
+}  // namespace bkconf

@@ -1,0 +1,354 @@
+#include "shell/main_window.h"
+
+#include <algorithm>
+#include <string>
+
+#include "link/send.h"
+#include "link/transfer.h"
+#include "platform/runtime_error.h"
+#include "session/language.h"
+#include "session/resets.h"
+#include "shell/menus.h"
+#include "text/windows1252.h"
+
+namespace bkconf {
+
+MainWindowScreen::MainWindowScreen()
+    : Screen("MainWindow"),
+      bestand(*this, nullptr, "bestand"),
+      nieuw(*this, &bestand, "nieuw"),
+      openen(*this, &bestand, "openen"),
+      lijn1(*this, &bestand, "lijn1"),
+      Bewaren(*this, &bestand, "Bewaren"),
+      Bewaren_als(*this, &bestand, "Bewaren_als"),
+      lijn2(*this, &bestand, "lijn2"),
+      Einde(*this, &bestand, "Einde"),
+      taal(*this, nullptr, "taal"),
+      ned(*this, &taal, "ned"),
+      frans(*this, &taal, "frans"),
+      settings(*this, nullptr, "settings"),
+      poort(*this, &settings, "poort"),
+      p1(*this, &poort, "p1"),
+      p2(*this, &poort, "p2"),
+      p3(*this, &poort, "p3"),
+      p4(*this, &poort, "p4"),
+      p5(*this, &poort, "p5"),
+      p6(*this, &poort, "p6"),
+      p7(*this, &poort, "p7"),
+      p8(*this, &poort, "p8"),
+      lijn3(*this, &settings, "lijn3"),
+      instellingen(*this, &settings, "instellingen"),
+      Info(*this, nullptr, "Info"),
+      Web(*this, &Info, "Web"),
+      moduleListLabel(*this, "moduleListLabel"),
+      moduleList(*this, "moduleList"),
+      pictureGroup(*this, "pictureGroup"),
+      picture(*this, "picture"),
+      moduleCaption(*this, "moduleCaption"),
+      moreInfo(*this, "moreInfo"),
+      infoInductive(*this, "infoInductive"),
+      infoCapacitive(*this, "infoCapacitive"),
+      infoAnalogue(*this, "infoAnalogue"),
+      actionGroup(*this, "actionGroup"),
+      connect(*this, "connect"),
+      send(*this, "send"),
+      upgrade(*this, "upgrade"),
+      general(*this, DataGroup::General, "general"),
+      displayTemperature(*this, DataGroup::DisplayTemperature, "displayTemperature"),
+      alarm(*this, DataGroup::Alarm, "alarm"),
+      special(*this, DataGroup::Special, "special"),
+      roomCountLabel(*this, "roomCountLabel"),
+      roomCount(*this, "roomCount"),
+      toleranceLabel(*this, "toleranceLabel"),
+      tolerance(*this, "tolerance"),
+      detectorCountLabel(*this, "detectorCountLabel"),
+      detectorCount(*this, "detectorCount"),
+      status(*this, "status"),
+      transferBar(*this, "transferBar") {
+  for (const ActionButtonRow& row : ActionButtons) {
+    actionButtons.push_back(std::make_unique<ButtonField>(*this, row.name));
+  }
+}
+
+DataGroupFields::DataGroupFields(Screen& screen, DataGroup dataGroup, std::string_view prefix)
+    : group(dataGroup),
+      frame(screen, std::string(prefix) + "Group"),
+      addressLabel(screen, std::string(prefix) + "AddressLabel"),
+      address(screen, std::string(prefix) + "Address"),
+      version(screen, std::string(prefix) + "Version") {}
+
+DataGroupFields& MainWindowScreen::Group(DataGroup group) {
+  switch (group) {
+    case DataGroup::General:
+      return general;
+    case DataGroup::DisplayTemperature:
+      return displayTemperature;
+    case DataGroup::Alarm:
+      return alarm;
+    case DataGroup::Special:
+      return special;
+  }
+  return general;
+}
+
+namespace {
+
+constexpr auto DataGroups = std::to_array<DataGroup>(
+    {DataGroup::General, DataGroup::DisplayTemperature, DataGroup::Alarm, DataGroup::Special});
+
+/// A list of the main window that shows one cell of the image, stores a pick at once, and puts the
+/// stored value back when something else is typed.
+struct CellField {
+  LabelField* label;
+  ListField* list;
+  KindSet kinds;
+  CellPlace cell;
+  int lowest;  ///< of the numbers offered
+  int highest;
+  TextId caption;
+  Cell* dirty;  ///< the flag that a pick sets, or null
+};
+
+/// The lists beside the address, each for one kind.
+const std::vector<CellField>& CellFields() {
+  static const std::vector<CellField> fields = {
+      {&MainWindow.roomCountLabel, &MainWindow.roomCount, {2}, {&TempHeader, 1}, 1, 8,
+       TextId::RoomCount, &TempHeaderDirty},
+      {&MainWindow.toleranceLabel, &MainWindow.tolerance, {2}, {&TempHeader, 2}, 2, 255,
+       TextId::Tolerance, &TempHeaderDirty},
+      {&MainWindow.detectorCountLabel, &MainWindow.detectorCount, {5}, {&AlarmImage, 123}, 1, 12,
+       TextId::DetectorCount, nullptr},
+  };
+  return fields;
+}
+
+Cell& CellAt(const CellPlace& place) { return (*place.table)[place.index]; }
+
+bool HasAddress(const ModuleKind* kind) { return kind == nullptr || kind->address.table != nullptr; }
+
+void ShowDataGroup(DataGroup group) {
+  for (const DataGroup each : DataGroups) {
+    MainWindow.Group(each).frame.visible = each == group;
+  }
+}
+
+/// Buttons and lists of other kinds hide; those of the kind show. Null hides all.
+void ShowFieldsOf(const ModuleKind* kind) {
+  for (std::size_t i = 0; i < ActionButtons.size(); ++i) {
+    ButtonField& button = *MainWindow.actionButtons[i];
+    button.visible = kind != nullptr && ActionButtons[i].kinds.Contains(kind->code);
+    Show(button.caption, ActionButtons[i].caption);
+  }
+  for (const CellField& field : CellFields()) {
+    const bool shown = kind != nullptr && field.kinds.Contains(kind->code);
+    field.label->visible = field.list->visible = shown;
+  }
+  for (const DataGroup group : DataGroups) {
+    DataGroupFields& fields = MainWindow.Group(group);
+    fields.address.visible = fields.addressLabel.visible = HasAddress(kind);
+  }
+}
+
+void ClearModuleFields() {
+  for (const DataGroup group : DataGroups) {
+    DataGroupFields& fields = MainWindow.Group(group);
+    fields.address.Clear();
+    fields.version.caption.clear();
+    fields.version.visible = false;
+  }
+  for (const CellField& field : CellFields()) field.list->Clear();
+}
+
+/// Picture, captions and info buttons of the model that the selection list shows. The image is not
+/// touched: what kind it takes is settled by the module.
+void ShowModel() {
+  const Model* model = FindModel(MainWindow.moduleList.Text());
+  const bool dimmer = model != nullptr && model->caption == TextId::DimModule;
+  MainWindow.pictureGroup.visible = model != nullptr;
+  MainWindow.moreInfo.visible = model != nullptr && !dimmer;
+  for (ButtonField* info :
+       {&MainWindow.infoInductive, &MainWindow.infoCapacitive, &MainWindow.infoAnalogue}) {
+    info->visible = dimmer;
+  }
+  if (model == nullptr) {
+    MainWindow.moduleCaption.caption.clear();
+    return;
+  }
+  MainWindow.picture.file = model->picture;
+  Show(MainWindow.moduleCaption.caption, model->caption);
+  Show(MainWindow.pictureGroup.caption, model->groupCaption);
+}
+
+void ShowKind(const ModuleKind& kind) {
+  MainWindow.moduleList.Show(kind.model);
+  ShowModel();
+  ShowDataGroup(kind.group);
+  ShowFieldsOf(&kind);
+}
+
+void ShowModuleCells() {
+  const ModuleKind* kind = ActiveKind();
+  DataGroupFields& fields = MainWindow.Group(kind->group);
+  if (HasAddress(kind)) fields.address.Show(CharacterOf(CellAt(kind->address).Whole()));
+  for (const CellField& field : CellFields()) {
+    if (field.kinds.Contains(kind->code)) field.list->Show(CellAt(field.cell).Text());
+  }
+  Show(fields.version.caption, TextId::Version);
+  fields.version.caption += VersionText(CellAt(kind->version));
+  fields.version.visible = true;
+}
+
+void EnableMenus(bool enabled) {
+  for (MenuField* menu :
+       {&MainWindow.bestand, &MainWindow.taal, &MainWindow.settings, &MainWindow.Info}) {
+    menu->enabled = enabled;
+  }
+  MainWindow.moduleList.enabled = enabled;
+}
+
+/// The info buttons go with them: a manual over the window would free the selection list in the
+/// middle of a transfer.
+void EnableActions(bool enabled) {
+  for (const auto& button : MainWindow.actionButtons) button->enabled = enabled;
+  for (ButtonField* info : {&MainWindow.moreInfo, &MainWindow.infoInductive,
+                            &MainWindow.infoCapacitive, &MainWindow.infoAnalogue}) {
+    info->enabled = enabled;
+  }
+}
+
+void EnableModuleFields(bool enabled) {
+  const bool usable = enabled && ActiveKind() != nullptr;
+  for (const DataGroup group : DataGroups) MainWindow.Group(group).address.enabled = usable;
+  for (const CellField& field : CellFields()) field.list->enabled = usable;
+}
+
+/// The letter goes to the module with the rest of its table.
+void PickAddress(const ListField& list) {
+  const ModuleKind* kind = ActiveKind();
+  CellAt(kind->address) = static_cast<int>(list.Text().front());
+  if (kind->code == 2) TempHeaderDirty = 1;
+  if (kind->code == 3) LcdHeaderDirty = 1;
+}
+
+void ShowAddressAgain(ListField& list) {
+  list.Show(CharacterOf(CellAt(ActiveKind()->address).Whole()));
+}
+
+void PickCell(const CellField& field) {
+  CellAt(field.cell) = ReadsAsNumber(field.list->Text()).value_or(0);
+  if (field.dirty != nullptr) *field.dirty = 1;
+  if (field.list == &MainWindow.roomCount) TempRoomCount = CellAt(field.cell);
+}
+
+void FillLists() {
+  for (const DataGroup group : DataGroups) {
+    ListField& address = MainWindow.Group(group).address;
+    for (char letter = 'A'; letter <= 'R'; ++letter) address.items.emplace_back(1, letter);
+    address.onPick = [&address] { PickAddress(address); };
+    address.onTyped = [&address] { ShowAddressAgain(address); };
+  }
+  for (const CellField& field : CellFields()) {
+    for (int number = field.lowest; number <= field.highest; ++number) {
+      field.list->items.push_back(std::to_string(number));
+    }
+    field.list->onPick = [&field] { PickCell(field); };
+    field.list->onTyped = [&field] { field.list->Show(CellAt(field.cell).Text()); };
+  }
+  for (const Model& model : Models) MainWindow.moduleList.items.emplace_back(model.name);
+  MainWindow.moduleList.onPick = ShowModel;
+}
+
+void ShowCaptions() {
+  Show(MainWindow.title, TextId::WindowTitle);
+  Show(MainWindow.actionGroup.caption, TextId::ActionGroup);
+  Show(MainWindow.connect.caption, TextId::Connect);
+  Show(MainWindow.send.caption, TextId::Send);
+  Show(MainWindow.upgrade.caption, TextId::Upgrade);
+  Show(MainWindow.moduleListLabel.caption, TextId::ModuleListLabel);
+  Show(MainWindow.moreInfo.caption, TextId::MoreInfo);
+  Show(MainWindow.infoInductive.caption, TextId::InfoInductive);
+  Show(MainWindow.infoCapacitive.caption, TextId::InfoCapacitive);
+  Show(MainWindow.infoAnalogue.caption, TextId::InfoAnalogue);
+  for (const DataGroup group : DataGroups) {
+    Show(MainWindow.Group(group).frame.caption, TextId::ModuleData);
+    Show(MainWindow.Group(group).addressLabel.caption, TextId::ModuleAddress);
+  }
+  for (const CellField& field : CellFields()) Show(field.label->caption, field.caption);
+  Show(MainWindow.tolerance.toolTip, TextId::ToleranceHint);
+}
+
+void FillTransferWindow() {
+  Window = {.status = &MainWindow.status,
+            .bar = &MainWindow.transferBar,
+            .connect = &MainWindow.connect,
+            .send = &MainWindow.send,
+            .enableMenus = EnableMenus,
+            .enableActions = EnableActions,
+            .enableModuleFields = EnableModuleFields,
+            .showKind = ShowKind,
+            .showModuleCells = ShowModuleCells};
+}
+
+void FillButtons() {
+  MainWindow.connect.onClick = Connect;
+  MainWindow.send.onClick = SendImage;
+  MainWindow.upgrade.onClick = HandOverOnRequest;
+  for (std::size_t i = 0; i < ActionButtons.size(); ++i) {
+    MainWindow.actionButtons[i]->onClick =
+        ActionHandlers[static_cast<std::size_t>(ActionButtons[i].action)];
+  }
+}
+
+/// What the window shows while there is no image.
+void ShowNoModule() {
+  ShowDataGroup(DataGroup::General);
+  ShowFieldsOf(nullptr);
+  ClearModuleFields();
+  EnableModuleFields(false);
+  EnableActions(true);
+  MainWindow.status.caption.clear();
+  MainWindow.connect.enabled = true;
+  MainWindow.send.enabled = false;
+  MainWindow.moduleList.Clear();
+  ShowModel();
+  MainWindow.Bewaren.enabled = MainWindow.Bewaren_als.enabled = false;
+  Show(MainWindow.title, TextId::WindowTitle);
+}
+
+}  // namespace
+
+void LoadMainWindow() {
+  FillTransferWindow();
+  ShowCaptions();
+  FillMenus();
+  FillLists();
+  FillButtons();
+  ShowNoModule();
+  MainWindow.shown = true;
+  UpgradeHandOff.Enable();
+}
+
+void Connect() {
+  try {
+    RxLine.clear();
+    ClearModuleFields();
+    Clear(ConnectClears);
+    PendingCommand = ReadBase;
+    if (!StartTransfer()) return;
+    MainWindow.Bewaren.enabled = false;
+    MainWindow.Bewaren_als.enabled = true;
+    Show(MainWindow.title, TextId::WindowTitle);
+  } catch (const RuntimeError&) {
+    // A port that fails while it is closed or opened is like one that cannot be opened.
+  }
+}
+
+void NewModule() {
+  AlarmImage[123] = 0;
+  ActiveModuleType = NoModule;
+  RxLine.clear();
+  ShowNoModule();
+  Clear(NewClears);
+}
+
+}  // namespace bkconf

@@ -1,0 +1,136 @@
+#include "shell/menus.h"
+
+#include <array>
+#include <string>
+
+#include "platform/machine.h"
+#include "platform/runtime_error.h"
+#include "session/language.h"
+#include "session/settings.h"
+#include "shell/main_window.h"
+
+namespace bkconf {
+namespace {
+
+constexpr int Dutch = 1;
+constexpr int French = 2;
+
+std::array<MenuField*, 8> PortEntries() {
+  return {&MainWindow.p1, &MainWindow.p2, &MainWindow.p3, &MainWindow.p4,
+          &MainWindow.p5, &MainWindow.p6, &MainWindow.p7, &MainWindow.p8};
+}
+
+void MarkPort() {
+  const auto entries = PortEntries();
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    entries[i]->checked = PortNumber.Number() == static_cast<double>(i + 1);
+  }
+}
+
+/// The device behind each number, which changes when an adapter is plugged or pulled.
+void ShowDevices() {
+  const auto entries = PortEntries();
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    const int number = static_cast<int>(i) + 1;
+    const std::string device = Port->DeviceOf(number);
+    entries[i]->caption = "Com &" + std::to_string(number) + (device.empty() ? "" : "  -  " + device);
+  }
+}
+
+struct MenuCaption {
+  MenuField* menu;
+  TextId caption;
+};
+
+std::array<MenuCaption, 13> Captions() {
+  return {{{&MainWindow.bestand, TextId::FileMenu},
+           {&MainWindow.nieuw, TextId::NewEntry},
+           {&MainWindow.openen, TextId::OpenEntry},
+           {&MainWindow.Bewaren, TextId::SaveEntry},
+           {&MainWindow.Bewaren_als, TextId::SaveAsEntry},
+           {&MainWindow.Einde, TextId::EndEntry},
+           {&MainWindow.taal, TextId::LanguageMenu},
+           {&MainWindow.ned, TextId::DutchEntry},
+           {&MainWindow.frans, TextId::FrenchEntry},
+           {&MainWindow.settings, TextId::SettingsMenu},
+           {&MainWindow.poort, TextId::PortMenu},
+           {&MainWindow.instellingen, TextId::PreferencesEntry},
+           {&MainWindow.Info, TextId::InfoMenu}}};
+}
+
+void ShowMenuCaptions() {
+  for (const MenuCaption& row : Captions()) {
+    // The design's own captions are the Dutch ones.
+    row.menu->caption = TextOf(row.caption).dutch;
+    Show(row.menu->caption, row.caption);
+  }
+  ShowDevices();
+}
+
+/// Starts the upgrade program and ends this one. False when it cannot be started.
+bool HandOver() {
+  if (!OtherPrograms->Start("upgrade.exe")) return false;
+  FileSystem->Write(SettingsPath("upgrade.vdm"), "1\r\n");
+  OtherPrograms->End();
+  return true;
+}
+
+void RunUpgradeHandOff() {
+  UpgradeHandOff.Disable();
+  HandOver();
+}
+
+}  // namespace
+
+Tick UpgradeHandOff{"UpgradeHandOff", 50, RunUpgradeHandOff};
+
+void FillMenus() {
+  ShowMenuCaptions();
+  for (MenuField* line : {&MainWindow.lijn1, &MainWindow.lijn2, &MainWindow.lijn3}) {
+    line->separator = true;
+  }
+  MainWindow.nieuw.onClick = NewModule;
+  MainWindow.Einde.onClick = [] { OtherPrograms->End(); };
+  MainWindow.ned.checkable = MainWindow.frans.checkable = true;
+  MainWindow.ned.checked = Language.Number() == Dutch;
+  MainWindow.frans.checked = Language.Number() == French;
+  MainWindow.ned.onClick = [] { ChangeLanguage(Dutch); };
+  MainWindow.frans.onClick = [] { ChangeLanguage(French); };
+  MainWindow.poort.onOpen = ShowDevices;
+  for (int number = 1; MenuField* entry : PortEntries()) {
+    entry->checkable = true;
+    entry->onClick = [number] { ChangePort(number); };
+    ++number;
+  }
+  MarkPort();
+  Port->SetNumber(PortNumber.Whole());
+}
+
+void ChangeLanguage(int language) {
+  Language = language;
+  StoreLanguage();
+  if (!OtherPrograms->StartThisProgram()) {
+    throw RuntimeError(ErrorKind::ProgramNotStarted, "bkconf");
+  }
+  OtherPrograms->End();
+}
+
+void ChangePort(int number) {
+  if (Port->IsOpen()) Port->Close();
+  PortNumber = number;
+  MarkPort();
+  StorePortNumber();
+  Port->SetNumber(number);
+}
+
+void HandOverOnRequest() {
+  MainWindow.upgrade.enabled = false;
+  MainWindow.moduleList.visible = true;
+  MainWindow.actionGroup.visible = true;
+  const ModuleKind* kind = ActiveKind();
+  MainWindow.Group(kind == nullptr ? DataGroup::General : kind->group).frame.visible = true;
+  MainWindow.pictureGroup.visible = !MainWindow.moduleList.Text().empty();
+  if (!HandOver()) FileSystem->Write(SettingsPath("upgrade.vdm"), "0\r\n");
+}
+
+}  // namespace bkconf
