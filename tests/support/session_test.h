@@ -1,0 +1,86 @@
+// The fixture of all core tests: a fresh session on the virtual clock, with stand-ins for the machine.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/machine.h"
+#include "platform/runtime_error.h"
+#include "shell/main_window.h"
+#include "support/fake_line.h"
+#include "support/snapshot.h"
+#include "support/virtual_clock.h"
+#include "virtual_module/module.h"
+
+namespace bkconf {
+
+class FakeMessages : public MessageBoxes {
+ public:
+  void Tell(const std::string& text) override { told.push_back(text); }
+  std::vector<std::string> told;
+};
+
+/// Files by path, in memory.
+class FakeFiles : public Files {
+ public:
+  std::optional<std::string> Read(const std::string& path) const override;
+  void Write(const std::string& path, std::string_view content) override;
+  std::map<std::string, std::string> content;
+  bool full = false;  ///< every write fails
+};
+
+class FakePrograms : public Programs {
+ public:
+  bool Start(const std::string& fileName) override;
+  bool StartThisProgram() override;
+  void End() override { events.emplace_back("end"); }
+  bool canStart = false;
+  std::vector<std::string> events;  ///< "start upgrade.exe", "start this program", "end"
+};
+
+/// Sets every global back to what a new process has, and puts the stand-ins behind the platform.
+class SessionTest : public testing::Test {
+ public:
+  SessionTest();
+  ~SessionTest() override;
+
+  VirtualClock clock;
+  FakeLine line{clock};
+  FakeMessages messages;
+  FakeFiles files;
+  FakePrograms programs;
+
+  /// Puts the four settings files in place: Dutch or French, port 1, 2000 turns of 1 microsecond.
+  void PutSettings(int language = 1);
+  /// Starts the session with these settings; the main window stands then.
+  void Start(int language = 1);
+
+  /// Plugs in a module, with the memory of the seed or the given one.
+  virtual_module::Module& Plug(int kind, std::optional<virtual_module::Fault> fault = std::nullopt,
+                               std::uint32_t seed = 1);
+  virtual_module::Module& Plug(virtual_module::Options options);
+
+  /// Presses Connect and runs until the menus are back.
+  void ReadModule();
+  /// Presses Send and runs until the menus are back.
+  void SendToModule();
+  /// Runs until the transfer is over; fails the test when it is not over in `limitMs`.
+  void FinishTransfer(std::int64_t limitMs = 120'000);
+
+ private:
+  std::unique_ptr<virtual_module::Module> module_;
+};
+
+/// The codes of all module kinds.
+inline constexpr int AllKinds[] = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 11};
+
+/// What the action buttons of the kind in memory are: all visible ones enabled, none, or a mix.
+std::vector<std::string> VisibleActions();
+bool AllVisibleActionsEnabled();
+
+}  // namespace bkconf
