@@ -46,14 +46,14 @@ Snapshot TakeSnapshot() {
   return snapshot;
 }
 
-void ExpectOnlyChanged(const Snapshot& before, std::initializer_list<std::string_view> names) {
+void ExpectOnlyChanged(const Snapshot& before, const std::vector<std::string>& names) {
   const Snapshot after = TakeSnapshot();
   std::set<std::string> changed;
   for (const auto& [name, cell] : before) {
     if (after.at(name) != cell) changed.insert(name);
   }
   std::set<std::string> allowed;
-  for (const std::string_view name : names) {
+  for (const std::string& name : names) {
     const std::set<std::string> cells = CellsOf(name);
     bool any = false;
     for (const std::string& cell : cells) {
