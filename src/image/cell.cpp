@@ -8,7 +8,9 @@
 namespace bkconf {
 namespace {
 
-bool IsDigit(char character) { return character >= '0' && character <= '9'; }
+bool IsDigit(char character) {
+  return character >= '0' && character <= '9';
+}
 
 std::string_view WithoutBlanks(std::string_view text) {
   const auto first = text.find_first_not_of(' ');

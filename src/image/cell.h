@@ -16,11 +16,11 @@ inline constexpr int EmptyCell = 42;
 class Cell {
  public:
   Cell() = default;
-  Cell(int number) : value_(static_cast<double>(number)) {}     // NOLINT: a cell takes any value
-  Cell(double number) : value_(number) {}                       // NOLINT
-  Cell(std::string text) : value_(std::move(text)) {}           // NOLINT
-  Cell(std::string_view text) : value_(std::string(text)) {}    // NOLINT
-  Cell(const char* text) : value_(std::string(text)) {}         // NOLINT
+  Cell(int number) : value_(static_cast<double>(number)) {}   // NOLINT: a cell takes any value
+  Cell(double number) : value_(number) {}                     // NOLINT
+  Cell(std::string text) : value_(std::move(text)) {}         // NOLINT
+  Cell(std::string_view text) : value_(std::string(text)) {}  // NOLINT
+  Cell(const char* text) : value_(std::string(text)) {}       // NOLINT
 
   bool IsEmpty() const { return std::holds_alternative<std::monostate>(value_); }
   bool IsNumber() const { return std::holds_alternative<double>(value_); }

@@ -1,5 +1,6 @@
 // The vocabulary of bus commands. Each is exactly six characters, and each is a whole name: its
-// digits have no further structure. The link sends them; the tables of the engines are keyed by them.
+// digits have no further structure. The link sends them; the tables of the engines are keyed by
+// them.
 #pragma once
 
 #include <array>

@@ -33,8 +33,8 @@ struct ModuleKind {
   CellPlace version;
 };
 
-/// In the order in which an identity line is tried. "DISPL11" comes before "DISPL1", which it begins
-/// with.
+/// In the order in which an identity line is tried. "DISPL11" comes before "DISPL1", which it
+/// begins with.
 inline constexpr std::array<ModuleKind, 11> ModuleKinds = {{
     {0, "DISPL0", "KR7021/KR8021", DataGroup::General, {&ButtonImage, 121}, {&ButtonImage, 163}},
     {11, "DISPL11", "KR7061", DataGroup::General, {&ButtonImage, 121}, {&ButtonImage, 163}},

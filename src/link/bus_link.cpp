@@ -1,5 +1,6 @@
 // The line discipline: how a conversation is opened, how a command goes out and a line comes in.
-// There is no time-out and no retry: the tool waits, and the loops below turn until a module speaks.
+// There is no time-out and no retry: the tool waits, and the loops below turn until a module
+// speaks.
 #include "link/bus_link.h"
 
 #include <cmath>
@@ -25,12 +26,12 @@ constexpr int LinkPeriod = 1;
 void Pause(double divisor) {
   // Far beyond any pause that makes sense, and far within what the counter can hold.
   constexpr double longest = 1e15;
-  BusyLoop(static_cast<std::int64_t>(
-      std::fmin(std::floor(CharDelayCount.Number() / divisor), longest)));
+  BusyLoop(
+      static_cast<std::int64_t>(std::fmin(std::floor(CharDelayCount.Number() / divisor), longest)));
 }
 
-/// Throws away what comes until the module polls. The bar is raised before the line is looked at: it
-/// overflows when no module speaks.
+/// Throws away what comes until the module polls. The bar is raised before the line is looked at:
+/// it overflows when no module speaks.
 void AwaitPoll() {
   char last = 0;
   do {
@@ -57,8 +58,8 @@ void RunWakeUpWait() {
     IdentityWait.Enable();
     WakeUpWait.Disable();
   } catch (const RuntimeError&) {
-    // No module spoke until the bar overflowed, or the port has gone. This is the only moment at which
-    // the window gets a turn; the wait starts again at the next tick.
+    // No module spoke until the bar overflowed, or the port has gone. This is the only moment at
+    // which the window gets a turn; the wait starts again at the next tick.
     Window.bar->SetValue(0);
   }
 }

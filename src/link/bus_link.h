@@ -10,8 +10,8 @@ namespace bkconf {
 /// last of seven.
 inline constexpr std::size_t PacedCharacters = 6;
 
-/// Writes the characters one by one, with the character pause after each of the first six. The pause
-/// holds the thread, so that nothing else of the program runs between two characters.
+/// Writes the characters one by one, with the character pause after each of the first six. The
+/// pause holds the thread, so that nothing else of the program runs between two characters.
 void SendPaced(std::string_view characters);
 
 }  // namespace bkconf

@@ -10,8 +10,8 @@
 namespace bkconf {
 namespace {
 
-/// The number in the characters `first` to `last` of the line, counted from 1; what the line does not
-/// have counts as nothing.
+/// The number in the characters `first` to `last` of the line, counted from 1; what the line does
+/// not have counts as nothing.
 int NumberAt(std::size_t first, std::size_t last) {
   const std::string_view line = RxLine;
   if (line.size() < first) return 0;
@@ -19,7 +19,9 @@ int NumberAt(std::size_t first, std::size_t last) {
 }
 
 /// The character that selects the table on the lines of kinds 2 and 3.
-char TableDigit() { return RxLine.size() < 2 ? '\0' : RxLine[1]; }
+char TableDigit() {
+  return RxLine.size() < 2 ? '\0' : RxLine[1];
+}
 
 const ReadRow* PendingRead() {
   return FindReadRow(ActiveCode(), PendingCommand.Text());
@@ -59,8 +61,8 @@ void HandleTableLine(const ReadRow& row) {
 struct TemperatureRow {
   char digit;
   Table* table;
-  int lastIndex;       ///< -1 where the table's last cell ends no read
-  Cell* cleared;       ///< the dirty flag that each line clears, or null
+  int lastIndex;  ///< -1 where the table's last cell ends no read
+  Cell* cleared;  ///< the dirty flag that each line clears, or null
 };
 
 constexpr std::array<TemperatureRow, 5> TemperatureRows = {{
@@ -99,7 +101,7 @@ void HandleTemperatureLine() {
 struct DisplayRow {
   char digit;
   Table* table;
-  int address;        ///< of cell 0
+  int address;  ///< of cell 0
   int lastIndex;
 };
 

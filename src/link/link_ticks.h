@@ -1,5 +1,5 @@
-// The routines of the link, each a tick: one state, one tick, one hand-over. Which of them is enabled
-// is the state of a transfer.
+// The routines of the link, each a tick: one state, one tick, one hand-over. Which of them is
+// enabled is the state of a transfer.
 #pragma once
 
 #include <array>
@@ -26,9 +26,9 @@ extern Tick IrWriter;           ///< kind 8
 extern Tick TablePause;         ///< between two tables of the temperature module
 
 inline constexpr std::array<Tick*, 14> LinkTicks = {
-    &WakeUpWait,    &IdentityWait, &CommandSend,       &LinkTick,   &WriterSelect,
-    &ButtonWriter,  &MasterWriter, &TemperatureWriter, &TablePause, &DisplayWriter,
-    &AlarmWriter,   &AudioWriter,  &SimulationWriter,  &IrWriter,
+    &WakeUpWait,   &IdentityWait, &CommandSend,       &LinkTick,   &WriterSelect,
+    &ButtonWriter, &MasterWriter, &TemperatureWriter, &TablePause, &DisplayWriter,
+    &AlarmWriter,  &AudioWriter,  &SimulationWriter,  &IrWriter,
 };
 
 }  // namespace bkconf

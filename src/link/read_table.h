@@ -13,9 +13,9 @@ namespace bkconf {
 struct ReadRow {
   KindSet kinds;
   std::string_view command;
-  Table* table;      ///< the table that holds the last cell
-  int lastIndex;     ///< the cell that ends the read for the eye
-  int barMaximum;    ///< cell lines expected; 0 for a read without a bar
+  Table* table;    ///< the table that holds the last cell
+  int lastIndex;   ///< the cell that ends the read for the eye
+  int barMaximum;  ///< cell lines expected; 0 for a read without a bar
   TextId status;
   Cell* loaded = nullptr;  ///< set when the read is asked for
 };

@@ -62,8 +62,8 @@ inline constexpr auto SendTable = std::to_array<SendRow>({
 /// Kinds that look for a further table when one has gone out.
 inline constexpr KindSet SendsTableByTable{3, 9};
 
-/// Sets `PendingCommand` by the first row that holds, and clears its flags. False, with everything as
-/// it was, when none holds.
+/// Sets `PendingCommand` by the first row that holds, and clears its flags. False, with everything
+/// as it was, when none holds.
 bool ChooseCommand();
 
 /// What the button Send does. With nothing to send the last command is sent again: Send is always

@@ -11,17 +11,18 @@
 
 namespace bkconf {
 
-/// The parts of the main window that transfers move. The main window fills this in when it is built.
+/// The parts of the main window that transfers move. The main window fills this in when it is
+/// built.
 struct TransferWindow {
   LabelField* status = nullptr;
   ProgressField* bar = nullptr;
   ButtonField* connect = nullptr;
   ButtonField* send = nullptr;
-  std::function<void(bool)> enableMenus;         ///< the four menus and the selection list
-  std::function<void(bool)> enableActions;       ///< the action buttons of the kind in memory
-  std::function<void(bool)> enableModuleFields;  ///< address and what stands beside it
+  std::function<void(bool)> enableMenus;            ///< the four menus and the selection list
+  std::function<void(bool)> enableActions;          ///< the action buttons of the kind in memory
+  std::function<void(bool)> enableModuleFields;     ///< address and what stands beside it
   std::function<void(const ModuleKind&)> showKind;  ///< model, caption, picture, frame, group
-  std::function<void()> showModuleCells;            ///< address, version and what stands beside them
+  std::function<void()> showModuleCells;  ///< address, version and what stands beside them
 };
 
 inline TransferWindow Window;
@@ -29,21 +30,21 @@ inline TransferWindow Window;
 /// The moments of a transfer that belong to a screen. A screen's folder puts its handler into
 /// `LinkHandlers`; a moment without a handler passes.
 enum class LinkEvent {
-  TestStarted,        ///< setup step of a live test; its screen takes over status and bar
-  TableReadStarted,   ///< setup step of a read on demand
-  TestLineReceived,   ///< a line of a live test stands in RxLine
-  OutputsTestReady,   ///< the module took the command: the stop button may work
+  TestStarted,       ///< setup step of a live test; its screen takes over status and bar
+  TableReadStarted,  ///< setup step of a read on demand
+  TestLineReceived,  ///< a line of a live test stands in RxLine
+  OutputsTestReady,  ///< the module took the command: the stop button may work
   ButtonTestReady,
   DetectorTestReady,
-  TestEnded,          ///< the module ended a live test by itself
-  ContextsRead,       ///< the table is complete and the window is free again
+  TestEnded,     ///< the module ended a live test by itself
+  ContextsRead,  ///< the table is complete and the window is free again
   TimeProgramsRead,
   LightProgramsRead,
-  ModuleListRead,     ///< the master's directory cells stand in ButtonImage
+  ModuleListRead,  ///< the master's directory cells stand in ButtonImage
   ModuleScanEnded,
-  TemperatureRead,    ///< an additional table of the temperature module is complete
-  LiveTemperature,    ///< one line of live temperatures stands in RxLine
-  DisplayRead,        ///< an additional table of the display module is complete
+  TemperatureRead,  ///< an additional table of the temperature module is complete
+  LiveTemperature,  ///< one line of live temperatures stands in RxLine
+  DisplayRead,      ///< an additional table of the display module is complete
 };
 inline constexpr std::size_t LinkEventCount = static_cast<std::size_t>(LinkEvent::DisplayRead) + 1;
 
@@ -58,8 +59,8 @@ inline constexpr int SearchMaximum = 20000;
 inline bool TransferUnderWay = false;
 
 /// Starts the conversation for `PendingCommand`: ends what the link still does, locks the window,
-/// shows the search, closes and opens the port and starts the wait for the poll. False when the port
-/// cannot be opened: nothing runs then, the window stays locked and nothing is told.
+/// shows the search, closes and opens the port and starts the wait for the poll. False when the
+/// port cannot be opened: nothing runs then, the window stays locked and nothing is told.
 bool StartTransfer();
 
 /// Starts the read of an additional table on demand: sets `PendingCommand` and the load flag of the

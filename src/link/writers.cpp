@@ -72,7 +72,8 @@ void FinishWrite() {
   UnlockMenus();
 }
 
-/// The table is out: the next of its chain follows after a short pause of its own, or the write ends.
+/// The table is out: the next of its chain follows after a short pause of its own, or the write
+/// ends.
 void FinishTable(Tick& writer) {
   writer.Disable();
   if (NextTable() >= 0) {
@@ -83,8 +84,8 @@ void FinishTable(Tick& writer) {
   FinishWrite();
 }
 
-/// The master's tables end early where two neighbours hold the mark of an empty record, wherever that
-/// is, also where both are real values.
+/// The master's tables end early where two neighbours hold the mark of an empty record, wherever
+/// that is, also where both are real values.
 bool EndsHere(const TableRow& row, int cursor) {
   const auto isEmptyMark = [&row](int index) { return (*row.table)[index].Number() == EmptyCell; };
   return row.endsAtEmptyCells && cursor > 0 && isEmptyMark(cursor) && isEmptyMark(cursor - 1);

@@ -1,5 +1,5 @@
-// The writers: each sends the cells of its kind at a fixed tick, one frame a tick, and nobody answers.
-// The dispatcher starts them through WriterSelect when the module has asked for the cells.
+// The writers: each sends the cells of its kind at a fixed tick, one frame a tick, and nobody
+// answers. The dispatcher starts them through WriterSelect when the module has asked for the cells.
 #pragma once
 
 namespace bkconf {

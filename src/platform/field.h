@@ -49,18 +49,19 @@ struct ListField : Field {
       : Field(screen, FieldKind::List, fieldName) {}
 
   std::vector<std::string> items;
-  std::function<void()> onPick;   ///< runs after an item was picked
-  std::function<void()> onTyped;  ///< runs after a text was typed; a fixed list shows its value again
+  std::function<void()> onPick;  ///< runs after an item was picked
+  std::function<void()>
+      onTyped;  ///< runs after a text was typed; a fixed list shows its value again
 
-  int Index() const { return index_; }             ///< -1 when no item is picked
+  int Index() const { return index_; }               ///< -1 when no item is picked
   const std::string& Text() const { return text_; }  ///< what the field shows
 
   /// Shows a text without running any handler; the index follows where the text is an item.
   void Show(std::string_view text);
   /// Shows nothing, without running any handler.
   void Clear() { Show(""); }
-  /// Picks an item and runs `onPick`, as a user does, whether a person or logic picks. A disabled or
-  /// hidden list, or an index outside the items, changes nothing.
+  /// Picks an item and runs `onPick`, as a user does, whether a person or logic picks. A disabled
+  /// or hidden list, or an index outside the items, changes nothing.
   void Pick(int index);
   /// Types a text over what the field shows and runs `onTyped`.
   void Type(std::string_view text);

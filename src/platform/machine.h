@@ -1,5 +1,5 @@
-// What the logic needs of the machine it runs on: serial port, message boxes, files, other programs.
-// The window and the tests put their own behind these before the session starts.
+// What the logic needs of the machine it runs on: serial port, message boxes, files, other
+// programs. The window and the tests put their own behind these before the session starts.
 #pragma once
 
 #include <cstdint>
@@ -69,8 +69,8 @@ inline MessageBoxes* Messages = nullptr;
 inline Files* FileSystem = nullptr;
 inline Programs* OtherPrograms = nullptr;
 
-/// Holds the thread for the turns of an empty loop that counts from 0 to `last`, inclusive: one turn
-/// for 0, none below. How long a turn takes depends on the computer.
+/// Holds the thread for the turns of an empty loop that counts from 0 to `last`, inclusive: one
+/// turn for 0, none below. How long a turn takes depends on the computer.
 void RunBusyLoop(std::int64_t last);
 
 /// The busy loop in use. Tests put a virtual clock's in its place.

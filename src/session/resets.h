@@ -9,8 +9,8 @@
 namespace bkconf {
 
 /// Connect: the image stays, but what was read on demand counts as not read.
-/// LcdWeekdayLoaded is left as it is, on purpose: the names of a display module read before are shown
-/// again.
+/// LcdWeekdayLoaded is left as it is, on purpose: the names of a display module read before are
+/// shown again.
 inline constexpr auto ConnectClears = std::to_array<Cell*>({
     &WriteInProgress,
     &TempImage1Loaded,
@@ -23,8 +23,8 @@ inline constexpr auto ConnectClears = std::to_array<Cell*>({
     &LcdScreen2Loaded,
 });
 
-/// New: just the flags of the display tables. The flags of other kinds, and LcdHeaderDirty, stay, and
-/// can reach another module; so it is meant.
+/// New: just the flags of the display tables. The flags of other kinds, and LcdHeaderDirty, stay,
+/// and can reach another module; so it is meant.
 inline constexpr auto NewClears = std::to_array<Cell*>({
     &LcdScreen1Dirty,
     &LcdScreen2Dirty,

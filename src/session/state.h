@@ -12,8 +12,8 @@
 
 namespace bkconf {
 
-/// The kind of the image in memory (the codes of ModuleKinds), or NoModule. A configuration file may
-/// put anything here.
+/// The kind of the image in memory (the codes of ModuleKinds), or NoModule. A configuration file
+/// may put anything here.
 inline Cell ActiveModuleType = NoModule;
 /// 1 Dutch, 2 French; from "country.vdm". Anything else sets no caption.
 inline Cell Language;
@@ -103,6 +103,8 @@ inline int ActiveCode() {
 }
 
 /// The row of the kind in memory, or null while there is none.
-inline const ModuleKind* ActiveKind() { return FindKind(ActiveCode()); }
+inline const ModuleKind* ActiveKind() {
+  return FindKind(ActiveCode());
+}
 
 }  // namespace bkconf

@@ -112,19 +112,41 @@ struct CellField {
 /// The lists beside the address, each for one kind.
 const std::vector<CellField>& CellFields() {
   static const std::vector<CellField> fields = {
-      {&MainWindow.roomCountLabel, &MainWindow.roomCount, {2}, {&TempHeader, 1}, 1, 8,
-       TextId::RoomCount, &TempHeaderDirty},
-      {&MainWindow.toleranceLabel, &MainWindow.tolerance, {2}, {&TempHeader, 2}, 2, 255,
-       TextId::Tolerance, &TempHeaderDirty},
-      {&MainWindow.detectorCountLabel, &MainWindow.detectorCount, {5}, {&AlarmImage, 123}, 1, 12,
-       TextId::DetectorCount, nullptr},
+      {&MainWindow.roomCountLabel,
+       &MainWindow.roomCount,
+       {2},
+       {&TempHeader, 1},
+       1,
+       8,
+       TextId::RoomCount,
+       &TempHeaderDirty},
+      {&MainWindow.toleranceLabel,
+       &MainWindow.tolerance,
+       {2},
+       {&TempHeader, 2},
+       2,
+       255,
+       TextId::Tolerance,
+       &TempHeaderDirty},
+      {&MainWindow.detectorCountLabel,
+       &MainWindow.detectorCount,
+       {5},
+       {&AlarmImage, 123},
+       1,
+       12,
+       TextId::DetectorCount,
+       nullptr},
   };
   return fields;
 }
 
-Cell& CellAt(const CellPlace& place) { return (*place.table)[place.index]; }
+Cell& CellAt(const CellPlace& place) {
+  return (*place.table)[place.index];
+}
 
-bool HasAddress(const ModuleKind* kind) { return kind == nullptr || kind->address.table != nullptr; }
+bool HasAddress(const ModuleKind* kind) {
+  return kind == nullptr || kind->address.table != nullptr;
+}
 
 void ShowDataGroup(DataGroup group) {
   for (const DataGroup each : DataGroups) {

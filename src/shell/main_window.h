@@ -53,7 +53,7 @@ struct MainWindowScreen : Screen {
   LabelField toleranceLabel;
   ListField tolerance;  ///< cell 2 of TempHeader, 2 to 255
   LabelField detectorCountLabel;
-  ListField detectorCount;  ///< cell 123 of AlarmImage, 1 to 12
+  ListField detectorCount;                                  ///< cell 123 of AlarmImage, 1 to 12
   std::vector<std::unique_ptr<ButtonField>> actionButtons;  ///< one for each row of ActionButtons
 
   // Status

@@ -33,7 +33,8 @@ void ShowDevices() {
   for (std::size_t i = 0; i < entries.size(); ++i) {
     const int number = static_cast<int>(i) + 1;
     const std::string device = Port->DeviceOf(number);
-    entries[i]->caption = "Com &" + std::to_string(number) + (device.empty() ? "" : "  -  " + device);
+    entries[i]->caption =
+        "Com &" + std::to_string(number) + (device.empty() ? "" : "  -  " + device);
   }
 }
 
@@ -97,7 +98,7 @@ void FillMenus() {
   MainWindow.ned.onClick = [] { ChangeLanguage(Dutch); };
   MainWindow.frans.onClick = [] { ChangeLanguage(French); };
   MainWindow.poort.onOpen = ShowDevices;
-  for (int number = 1; MenuField* entry : PortEntries()) {
+  for (int number = 1; MenuField * entry : PortEntries()) {
     entry->checkable = true;
     entry->onClick = [number] { ChangePort(number); };
     ++number;

@@ -9,9 +9,9 @@ namespace bkconf {
 /// Captions, check marks and handlers of all entries; the port gets the number of the settings.
 void FillMenus();
 
-/// 1 Dutch, 2 French: stores the choice, starts a new copy of the program and ends this one. Unsaved
-/// work is gone, without a question. Throws RuntimeError when the copy cannot be started; this
-/// program then lives on.
+/// 1 Dutch, 2 French: stores the choice, starts a new copy of the program and ends this one.
+/// Unsaved work is gone, without a question. Throws RuntimeError when the copy cannot be started;
+/// this program then lives on.
 void ChangeLanguage(int language);
 
 /// 1 to 8: closes the port, marks the entry and stores the number; the next Connect opens it.

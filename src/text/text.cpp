@@ -15,8 +15,12 @@ constexpr auto Texts = std::to_array<TextRow>({
 
 }  // namespace
 
-std::size_t TextCount() { return Texts.size(); }
+std::size_t TextCount() {
+  return Texts.size();
+}
 
-const TextRow& TextOf(TextId id) { return Texts[static_cast<std::size_t>(id)]; }
+const TextRow& TextOf(TextId id) {
+  return Texts[static_cast<std::size_t>(id)];
+}
 
 }  // namespace bkconf

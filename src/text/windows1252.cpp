@@ -36,7 +36,11 @@ char32_t TakeCodePoint(std::string_view& utf8) {
   constexpr char32_t broken = 0xFFFD;
   const auto at = [&utf8](std::size_t i) { return static_cast<unsigned char>(utf8[i]); };
   const unsigned char lead = at(0);
-  const std::size_t length = lead < 0x80 ? 1 : lead < 0xC0 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+  const std::size_t length = lead < 0x80   ? 1
+                             : lead < 0xC0 ? 0
+                             : lead < 0xE0 ? 2
+                             : lead < 0xF0 ? 3
+                                           : 4;
   if (length == 0 || length > utf8.size()) {
     utf8.remove_prefix(1);
     return broken;

@@ -98,7 +98,9 @@ TEST_F(BusLinkTest, AfterTheBurstTheIdentityIsAwaitedEveryTenMilliseconds) {
 TEST_F(BusLinkTest, EveryLookAtTheLineMovesTheBarUntilItOverflowsAndTheWaitStartsAgain) {
   StartWithPoll();
   int highest = 0;
-  MainWindow.transferBar.draw = [&] { highest = std::max(highest, MainWindow.transferBar.Value()); };
+  MainWindow.transferBar.draw = [&] {
+    highest = std::max(highest, MainWindow.transferBar.Value());
+  };
   clock.Advance(5);
   EXPECT_EQ(highest, 20000);
   EXPECT_EQ(MainWindow.transferBar.Value(), 0);
@@ -110,7 +112,7 @@ TEST_F(BusLinkTest, EveryLookAtTheLineMovesTheBarUntilItOverflowsAndTheWaitStart
 
 TEST_F(BusLinkTest, APollOfAnEarlierTickDoesNotCount) {
   StartWithPoll();
-  clock.Advance(5);  // overflows
+  clock.Advance(5);   // overflows
   line.Receive("M");  // flushed at the start of the next tick
   clock.Advance(5);
   EXPECT_EQ(line.AllWritten(), "");

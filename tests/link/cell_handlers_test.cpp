@@ -80,7 +80,9 @@ TEST_P(BaseReadTest, TheLastIndexClosesTheReadAndTheMenusStayLocked) {
 
 TEST_P(BaseReadTest, CharactersOneAndTwoAreNotLookedAt) {
   const BaseCase& base = GetParam();
-  for (const char* received : {"M1003007", "99003007", "  003007", "\n\x01" "003007"}) {
+  for (const char* received : {"M1003007", "99003007", "  003007",
+                               "\n\x01"
+                               "003007"}) {
     Begin(base.kind, "T80000", base.maximum);
     (*base.table)[3] = Cell();
     Handle(received);
@@ -105,19 +107,14 @@ TEST_P(BaseReadTest, ALinePastTheEndOfTheBarIsAnErrorBeforeItsStore) {
   EXPECT_EQ((*base.table)[0], Cell(1));
 }
 
-INSTANTIATE_TEST_SUITE_P(Kinds, BaseReadTest,
-                         testing::Values(BaseCase{0, &ButtonImage, 164, 163},
-                                         BaseCase{1, &ButtonImage, 164, 163},
-                                         BaseCase{4, &ButtonImage, 164, 163},
-                                         BaseCase{11, &ButtonImage, 164, 163},
-                                         BaseCase{9, &ButtonImage, 164, 163},
-                                         BaseCase{5, &AlarmImage, 294, 292},
-                                         BaseCase{6, &AudioImage, 213, 212},
-                                         BaseCase{7, &SimulationImage, 185, 184},
-                                         BaseCase{8, &IrImage, 509, 508}),
-                         [](const auto& base) {
-                           return "kind" + std::to_string(base.param.kind);
-                         });
+INSTANTIATE_TEST_SUITE_P(
+    Kinds, BaseReadTest,
+    testing::Values(BaseCase{0, &ButtonImage, 164, 163}, BaseCase{1, &ButtonImage, 164, 163},
+                    BaseCase{4, &ButtonImage, 164, 163}, BaseCase{11, &ButtonImage, 164, 163},
+                    BaseCase{9, &ButtonImage, 164, 163}, BaseCase{5, &AlarmImage, 294, 292},
+                    BaseCase{6, &AudioImage, 213, 212}, BaseCase{7, &SimulationImage, 185, 184},
+                    BaseCase{8, &IrImage, 509, 508}),
+    [](const auto& base) { return "kind" + std::to_string(base.param.kind); });
 
 struct LenientCase {
   const char* line;
@@ -190,9 +187,8 @@ struct MasterCase {
 };
 
 TEST_F(CellHandlersTest, AnAdditionalMasterTableIsReadyAtCell999AndTheWindowWaitsForStop) {
-  const MasterCase cases[] = {{"T81000", &ContextTable},
-                              {"T82000", &TimeProgramTable},
-                              {"T83000", &LightProgramTable}};
+  const MasterCase cases[] = {
+      {"T81000", &ContextTable}, {"T82000", &TimeProgramTable}, {"T83000", &LightProgramTable}};
   for (const MasterCase& each : cases) {
     Begin(9, each.command, 1000);
     Handle("C0998007");
@@ -244,8 +240,7 @@ TEST_F(CellHandlersTest, TheSecondCharacterOfATemperatureLineNamesItsTable) {
     const Snapshot before = TakeSnapshot();
     Handle(each.line);
     EXPECT_EQ((*each.table)[each.index], Cell(each.value)) << each.line;
-    const std::string cell =
-        std::string(each.table->name) + "[" + std::to_string(each.index) + "]";
+    const std::string cell = std::string(each.table->name) + "[" + std::to_string(each.index) + "]";
     if (each.cleared != nullptr) {
       ExpectOnlyChanged(before, {cell, each.cleared, "RxLine"});
     } else {
@@ -331,11 +326,11 @@ struct DisplayCase {
 
 TEST_F(CellHandlersTest, TheAddressOfADisplayLineNamesTableAndCell) {
   const DisplayCase cases[] = {
-      {"M1000067", &LcdHeader, 0, 67},        {"M2000076", &LcdScreen1, 0, 76},
-      {"M2999032", &LcdScreen1, 999, 32},     {"M3000035", &LcdScreen1, 1000, 35},
-      {"C2695003", &LcdScreen1, 695, 3},      {"M4700007", &LcdScreen2, 700, 7},
-      {"M5000035", &LcdScreen2, 1000, 35},    {"M6003077", &LcdWeekdayNames, 3, 77},
-      {"M3029001", &LcdScreen1, 1029, 1},     {"M4000076", &LcdScreen2, 0, 76},
+      {"M1000067", &LcdHeader, 0, 67},     {"M2000076", &LcdScreen1, 0, 76},
+      {"M2999032", &LcdScreen1, 999, 32},  {"M3000035", &LcdScreen1, 1000, 35},
+      {"C2695003", &LcdScreen1, 695, 3},   {"M4700007", &LcdScreen2, 700, 7},
+      {"M5000035", &LcdScreen2, 1000, 35}, {"M6003077", &LcdWeekdayNames, 3, 77},
+      {"M3029001", &LcdScreen1, 1029, 1},  {"M4000076", &LcdScreen2, 0, 76},
   };
   for (const DisplayCase& each : cases) {
     Begin(3, "T81000", 1020);

@@ -85,8 +85,7 @@ TEST_F(IdentityTest, TheRefusalIsToldInDutch) {
 
 TEST_F(IdentityTest, TheRefusalIsToldInFrench) {
   Identify("DISPLX", NoModule, 2);
-  EXPECT_EQ(messages.told,
-            std::vector<std::string>{"Le module trouvé n'est pas du bon type !"});
+  EXPECT_EQ(messages.told, std::vector<std::string>{"Le module trouvé n'est pas du bon type !"});
 }
 
 TEST_F(IdentityTest, ARefusalLeavesTheTransferWithTheWindowFreeAndThePortOpen) {

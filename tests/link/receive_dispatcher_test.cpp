@@ -54,9 +54,15 @@ class ReceiveDispatcherTest : public SessionTest {
 const Seen Rearmed{{}, true, true, false, false};
 const Seen Freed{{}, false, false, false, true};
 
-Seen RearmedWith(LinkEvent event) { return {{event}, true, true, false, false}; }
-Seen FreedWith(LinkEvent event) { return {{event}, false, false, false, true}; }
-Seen FreedAndEmptiedWith(LinkEvent event) { return {{event}, true, false, false, true}; }
+Seen RearmedWith(LinkEvent event) {
+  return {{event}, true, true, false, false};
+}
+Seen FreedWith(LinkEvent event) {
+  return {{event}, false, false, false, true};
+}
+Seen FreedAndEmptiedWith(LinkEvent event) {
+  return {{event}, true, false, false, true};
+}
 
 TEST_F(ReceiveDispatcherTest, TheAcknowledgeOfTheOutputsTestEnablesItsStopButton) {
   for (const int kind : {0, 1, 4, 11}) {

@@ -21,9 +21,13 @@ std::string FakeLine::AllWritten() const {
   return all;
 }
 
-void FakeLine::SetNumber(int number) { calls.push_back("number " + std::to_string(number)); }
+void FakeLine::SetNumber(int number) {
+  calls.push_back("number " + std::to_string(number));
+}
 
-std::string FakeLine::DeviceOf(int number) const { return "fake" + std::to_string(number); }
+std::string FakeLine::DeviceOf(int number) const {
+  return "fake" + std::to_string(number);
+}
 
 bool FakeLine::Open() {
   calls.emplace_back("open");

@@ -28,6 +28,9 @@ class FakeLine : public SerialPort {
   /// Characters that are received at once, without a module.
   void Receive(std::string_view characters) { received_.append(characters); }
 
+  /// Lets the module take everything that has arrived by now.
+  void Settle() { Pump(); }
+
   bool canOpen = true;
   bool failed = false;  ///< the device has gone: every operation but open and close throws
   std::int64_t spinLimit = 60'000'000;  ///< microseconds that a routine may wait for a character

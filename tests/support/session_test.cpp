@@ -107,6 +107,9 @@ void SessionTest::ReadModule() {
 void SessionTest::SendToModule() {
   MainWindow.send.Click();
   FinishTransfer();
+  // The last characters are still on the line.
+  clock.Advance(50);
+  line.Settle();
 }
 
 void SessionTest::FinishTransfer(std::int64_t limitMs) {

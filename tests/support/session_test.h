@@ -1,4 +1,5 @@
-// The fixture of all core tests: a fresh session on the virtual clock, with stand-ins for the machine.
+// The fixture of all core tests: a fresh session on the virtual clock, with stand-ins for the
+// machine.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -15,8 +15,8 @@ void VirtualClock::Disarm(Tick& tick) {
 }
 
 bool VirtualClock::RunNext(std::int64_t end) {
-  const auto next = std::min_element(
-      alarms_.begin(), alarms_.end(), [](const Alarm& left, const Alarm& right) {
+  const auto next =
+      std::min_element(alarms_.begin(), alarms_.end(), [](const Alarm& left, const Alarm& right) {
         return std::tie(left.due, left.order) < std::tie(right.due, right.order);
       });
   if (next == alarms_.end() || next->due > end) return false;

@@ -22,9 +22,11 @@ class VirtualClock : public TickDriver {
   /// Microseconds since the clock was made.
   std::int64_t Now() const { return now_; }
 
-  /// Runs every tick that falls due within the next `milliseconds`, in the order of their due times.
+  /// Runs every tick that falls due within the next `milliseconds`, in the order of their due
+  /// times.
   void Advance(std::int64_t milliseconds);
-  /// Runs ticks until the condition holds; false when `limitMs` are over before, or no tick is armed.
+  /// Runs ticks until the condition holds; false when `limitMs` are over before, or no tick is
+  /// armed.
   bool RunUntil(const std::function<bool()>& condition, std::int64_t limitMs);
   /// For loops that hold the thread: moves the time on while no tick can run.
   void Hold(std::int64_t microseconds) { now_ += microseconds; }
