@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <ostream>
 
 namespace bkconf {
 namespace {
@@ -70,6 +71,11 @@ struct CellRow {
   const char* text;
   const char* printForm;
 };
+
+/// In the names and messages of the tests.
+void PrintTo(const CellRow& row, std::ostream* out) {
+  *out << row.name;
+}
 
 class CellFormsTest : public testing::TestWithParam<CellRow> {};
 

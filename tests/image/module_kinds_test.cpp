@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <ostream>
 #include <vector>
 
 namespace bkconf {
@@ -21,6 +22,11 @@ struct KindRow {
   int versionCell;
   DataGroup group;
 };
+
+/// In the names and messages of the tests.
+void PrintTo(const KindRow& row, std::ostream* out) {
+  *out << row.identity;
+}
 
 /// Written down apart from the catalogue.
 const std::vector<KindRow>& Rows() {

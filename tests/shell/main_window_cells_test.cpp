@@ -1,6 +1,8 @@
 // The fields of the main window that store a cell of the image at once.
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 #include "image/tables.h"
 #include "support/session_test.h"
 
@@ -16,6 +18,11 @@ struct AddressRow {
   Cell* dirty;       ///< null where Send needs no flag
   const char* flag;
 };
+
+/// In the names and messages of the tests.
+void PrintTo(const AddressRow& row, std::ostream* out) {
+  *out << row.name;
+}
 
 const AddressRow Rows[] = {
     {0, DataGroup::General, &ButtonImage, 121, "ButtonImage[121]", nullptr, nullptr},

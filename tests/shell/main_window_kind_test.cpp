@@ -1,6 +1,8 @@
 // What the main window shows of each kind when its module has been read.
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 #include "image/tables.h"
 #include "support/session_test.h"
 
@@ -20,6 +22,11 @@ struct KindRow {
   std::size_t versionCell;
   Captions actions[2];
 };
+
+/// In the names and messages of the tests.
+void PrintTo(const KindRow& row, std::ostream* out) {
+  *out << row.model;
+}
 
 /// Written down apart from the tables of the tool.
 const std::vector<KindRow>& Rows() {
