@@ -1,0 +1,56 @@
+#include "shell/qt/field_view.h"
+
+#include "shell/qt/button_view.h"
+#include "shell/qt/group_view.h"
+#include "shell/qt/label_view.h"
+#include "shell/qt/list_view.h"
+#include "shell/qt/picture_view.h"
+#include "shell/qt/progress_view.h"
+
+namespace bkconf {
+
+WidgetView::WidgetView(const Field& field, QWidget* widget) : field_(field), widget_(widget) {
+  widget->setObjectName(ToQt(field.name));
+}
+
+void WidgetView::Refresh() {
+  const QSignalBlocker blocker(widget_);
+  Push();
+  if (toolTip_ != field_.toolTip) {
+    toolTip_ = field_.toolTip;
+    widget_->setToolTip(ToQt(toolTip_));
+  }
+  if (const QString name = SpokenName(); widget_->accessibleName() != name) {
+    widget_->setAccessibleName(name);
+  }
+  if (widget_->isEnabledTo(widget_->parentWidget()) != Enabled()) widget_->setEnabled(Enabled());
+  // Asks for the widget's own flag: it stays hidden with the group it lies in.
+  if (widget_->isHidden() == field_.visible) widget_->setVisible(field_.visible);
+}
+
+QString WidgetView::SpokenName() const {
+  if (!field_.caption.empty()) return ToQt(field_.caption);
+  return label_ == nullptr ? QString() : ToQt(label_->caption);
+}
+
+std::unique_ptr<WidgetView> MakeView(Field& field, QWidget* parent) {
+  switch (field.kind) {
+    case FieldKind::Group:
+      return std::make_unique<GroupView>(static_cast<GroupField&>(field), parent);
+    case FieldKind::Label:
+      return std::make_unique<LabelView>(static_cast<LabelField&>(field), parent);
+    case FieldKind::List:
+      return std::make_unique<ListView>(static_cast<ListField&>(field), parent);
+    case FieldKind::Button:
+      return std::make_unique<ButtonView>(static_cast<ButtonField&>(field), parent);
+    case FieldKind::Progress:
+      return std::make_unique<ProgressView>(static_cast<ProgressField&>(field), parent);
+    case FieldKind::Picture:
+      return std::make_unique<PictureView>(static_cast<PictureField&>(field), parent);
+    case FieldKind::Menu:
+      return nullptr;
+  }
+  return nullptr;
+}
+
+}  // namespace bkconf

@@ -1,0 +1,85 @@
+// How the look of a screen is told: rows, columns, forms, frames and tiles that name its fields.
+// The files in layouts/ write it, the layout builder turns it into Qt layouts.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace bkconf {
+
+/// How much a part catches the eye.
+enum class Look {
+  Plain,
+  Primary,  ///< a button: what the screen is there for
+  Heading,  ///< a label: stands out from the text around it
+};
+
+enum class PartKind {
+  Item,    ///< one field
+  Row,     ///< parts side by side
+  Column,  ///< parts one below the other
+  Form,    ///< lines of a label and what it names, aligned with each other
+  Line,    ///< a line of a form: a field, and parts to its right
+  Frame,   ///< a group field around one part
+  Tiles,   ///< equal parts in some columns; hidden ones leave no hole
+  Rule,    ///< a thin line across
+  Space,   ///< empty room that takes what is left over
+};
+
+/// Fields of a part are placed, and visited with the tabulator key, in the order in which they are
+/// named.
+struct Part {
+  PartKind kind = PartKind::Space;
+  std::string field;
+  std::string label;  ///< the field that names this one
+  std::vector<Part> parts;
+  Look look = Look::Plain;
+  int columns = 0;  ///< of tiles
+  int share = 0;    ///< of the width of its row, in proportion to the others; 0 is as it needs
+};
+
+inline Part Item(std::string_view field, Look look = Look::Plain) {
+  return {.kind = PartKind::Item, .field = std::string(field), .look = look};
+}
+/// A field without a caption of its own, named by a label that stands elsewhere.
+inline Part Labelled(std::string_view label, std::string_view field) {
+  return {.kind = PartKind::Item, .field = std::string(field), .label = std::string(label)};
+}
+inline Part Row(std::vector<Part> parts) {
+  return {.kind = PartKind::Row, .parts = std::move(parts)};
+}
+inline Part Column(std::vector<Part> parts) {
+  return {.kind = PartKind::Column, .parts = std::move(parts)};
+}
+inline Part Line(std::string_view label, std::string_view field, std::vector<Part> beside = {}) {
+  return {.kind = PartKind::Line,
+          .field = std::string(field),
+          .label = std::string(label),
+          .parts = std::move(beside)};
+}
+inline Part Form(std::vector<Part> lines) {
+  return {.kind = PartKind::Form, .parts = std::move(lines)};
+}
+inline Part Frame(std::string_view group, Part content) {
+  Part part{.kind = PartKind::Frame, .field = std::string(group)};
+  part.parts.push_back(std::move(content));
+  return part;
+}
+inline Part Tiles(int columns, std::vector<Part> parts) {
+  return {.kind = PartKind::Tiles, .parts = std::move(parts), .columns = columns};
+}
+/// A part of a row, with its share of the width.
+inline Part Share(int share, Part part) {
+  part.share = share;
+  return part;
+}
+inline Part Rule() {
+  return {.kind = PartKind::Rule};
+}
+inline Part Space() {
+  return {};
+}
+
+}  // namespace bkconf

@@ -1,0 +1,117 @@
+#include "shell/qt/layout_builder.h"
+
+#include <QBoxLayout>
+#include <QFormLayout>
+#include <QLabel>
+
+#include "shell/qt/style.h"
+#include "shell/qt/tile_layout.h"
+
+namespace bkconf {
+namespace {
+
+constexpr int Spacing = 14;
+constexpr int LineSpacing = 10;
+
+QWidget* MakeRule() {
+  auto* rule = new QFrame;
+  rule->setFrameShape(QFrame::HLine);
+  rule->setForegroundRole(QPalette::Midlight);
+  rule->setFrameShadow(QFrame::Plain);
+  return rule;
+}
+
+}  // namespace
+
+QLayout* LayoutBuilder::Build(const Part& part) {
+  switch (part.kind) {
+    case PartKind::Row:
+    case PartKind::Column:
+      return BuildBox(part);
+    case PartKind::Form:
+      return BuildForm(part);
+    case PartKind::Tiles:
+      return BuildTiles(part);
+    case PartKind::Line:
+      return BuildLine(part);
+    case PartKind::Item:
+    case PartKind::Frame:
+    case PartKind::Rule:
+    case PartKind::Space:
+      return BuildBox(Column({part}));
+  }
+  return nullptr;
+}
+
+QLayout* LayoutBuilder::BuildBox(const Part& part) {
+  const bool row = part.kind == PartKind::Row;
+  auto* box = new QBoxLayout(row ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+  box->setSpacing(Spacing);
+  for (const Part& each : part.parts) {
+    if (each.kind == PartKind::Space) {
+      box->addStretch(1);
+    } else if (each.kind == PartKind::Rule) {
+      box->addWidget(MakeRule());
+    } else if (each.kind == PartKind::Frame) {
+      box->addWidget(BuildFrame(each), each.share);
+    } else if (each.kind == PartKind::Item) {
+      box->addWidget(Place(each), each.share);
+    } else {
+      box->addLayout(Build(each), each.share);
+    }
+  }
+  return box;
+}
+
+QLayout* LayoutBuilder::BuildForm(const Part& part) {
+  auto* form = new QFormLayout;
+  form->setHorizontalSpacing(Spacing);
+  form->setVerticalSpacing(LineSpacing);
+  form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
+  for (const Part& line : part.parts) {
+    QWidget* label = Place(Item(line.label));
+    // As tall as its line, so that the text stands in the middle of it.
+    label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+    form->addRow(label, BuildLine(line));
+  }
+  return form;
+}
+
+QLayout* LayoutBuilder::BuildLine(const Part& line) {
+  std::vector<Part> parts = {Labelled(line.label, line.field)};
+  parts.insert(parts.end(), line.parts.begin(), line.parts.end());
+  return BuildBox(Row(std::move(parts)));
+}
+
+QLayout* LayoutBuilder::BuildTiles(const Part& part) {
+  auto* tiles = new TileLayout(part.columns);
+  tiles->setSpacing(LineSpacing);
+  for (const Part& each : part.parts) tiles->addWidget(Place(each));
+  return tiles;
+}
+
+QWidget* LayoutBuilder::BuildFrame(const Part& part) {
+  QWidget* frame = find_(part.field).Widget();
+  QLayout* content = Build(part.parts.front());
+  content->setContentsMargins(FrameMargin, FrameMargin, FrameMargin, FrameMargin);
+  frame->setLayout(content);
+  return frame;
+}
+
+QWidget* LayoutBuilder::Place(const Part& part) {
+  WidgetView& view = find_(part.field);
+  QWidget* widget = view.Widget();
+  if (!part.label.empty()) Label(part.label, view);
+  ApplyLook(part.look, *widget);
+  placed_.push_back(widget);
+  return widget;
+}
+
+void LayoutBuilder::Label(const std::string& label, WidgetView& view) {
+  WidgetView& labelView = find_(label);
+  view.SetLabel(labelView.Shown());
+  auto* widget = dynamic_cast<QLabel*>(labelView.Widget());
+  if (widget != nullptr && view.Shown().kind == FieldKind::List) widget->setBuddy(view.Widget());
+}
+
+}  // namespace bkconf

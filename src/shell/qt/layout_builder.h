@@ -1,0 +1,37 @@
+// Turns the description of a screen's look into Qt layouts. The window calls it once.
+#pragma once
+
+#include <QLayout>
+#include <functional>
+
+#include "shell/qt/field_view.h"
+#include "shell/qt/layout.h"
+
+namespace bkconf {
+
+class LayoutBuilder {
+ public:
+  /// `find` gives the view of a field by name; a name that is no field is an error of the
+  /// description, and ends the program.
+  explicit LayoutBuilder(std::function<WidgetView&(const std::string& field)> find)
+      : find_(std::move(find)) {}
+
+  QLayout* Build(const Part& part);
+
+  /// The widgets in reading order.
+  const std::vector<QWidget*>& Placed() const { return placed_; }
+
+ private:
+  QLayout* BuildBox(const Part& part);
+  QLayout* BuildForm(const Part& part);
+  QLayout* BuildLine(const Part& line);
+  QLayout* BuildTiles(const Part& part);
+  QWidget* BuildFrame(const Part& part);
+  QWidget* Place(const Part& part);
+  void Label(const std::string& label, WidgetView& view);
+
+  std::function<WidgetView&(const std::string&)> find_;
+  std::vector<QWidget*> placed_;
+};
+
+}  // namespace bkconf

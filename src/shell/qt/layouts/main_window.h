@@ -1,0 +1,49 @@
+// The look of the main window: selection and picture on the left, the module on the right, the
+// state of a transfer at the bottom. The program builds its window from it.
+#pragma once
+
+#include "shell/action_buttons.h"
+#include "shell/qt/layout.h"
+
+namespace bkconf {
+
+inline std::vector<Part> ActionButtonsOf(DataGroup group) {
+  std::vector<Part> parts;
+  for (const ActionButtonRow& row : ActionButtons) {
+    if (row.group == group) parts.push_back(Item(row.name));
+  }
+  return parts;
+}
+
+/// One of the four groups of module data: address and version, what only some kinds have, and the
+/// buttons of its editors.
+inline Part DataGroupPart(DataGroup group, const std::string& prefix,
+                          std::vector<Part> further = {}) {
+  std::vector<Part> lines = {
+      Line(prefix + "AddressLabel", prefix + "Address", {Item(prefix + "Version")})};
+  for (Part& line : further) lines.push_back(std::move(line));
+  return Frame(prefix + "Group",
+               Column({Form(std::move(lines)), Tiles(2, ActionButtonsOf(group)), Space()}));
+}
+
+inline Part MainWindowLayout() {
+  const Part selection =
+      Column({Row({Item("moduleListLabel"), Share(1, Labelled("moduleListLabel", "moduleList"))}),
+              Frame("pictureGroup",
+                    Column({Labelled("moduleCaption", "picture"),
+                            Item("moduleCaption", Look::Heading), Item("moreInfo"),
+                            Item("infoInductive"), Item("infoCapacitive"), Item("infoAnalogue")})),
+              Space(), Row({Item("upgrade"), Space()})});
+  const Part module = Column(
+      {Frame("actionGroup",
+             Row({Item("connect", Look::Primary), Item("send", Look::Primary), Space()})),
+       DataGroupPart(DataGroup::General, "general"),
+       DataGroupPart(DataGroup::DisplayTemperature, "displayTemperature",
+                     {Line("roomCountLabel", "roomCount"), Line("toleranceLabel", "tolerance")}),
+       DataGroupPart(DataGroup::Alarm, "alarm", {Line("detectorCountLabel", "detectorCount")}),
+       DataGroupPart(DataGroup::Special, "special")});
+  return Column({Row({Share(1, selection), Share(2, module)}), Rule(),
+                 Row({Share(2, Item("status")), Share(1, Labelled("status", "transferBar"))})});
+}
+
+}  // namespace bkconf

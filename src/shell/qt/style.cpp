@@ -1,0 +1,131 @@
+#include "shell/qt/style.h"
+
+#include <QComboBox>
+#include <QPainter>
+#include <QProxyStyle>
+#include <QPushButton>
+#include <QStyleOptionGroupBox>
+
+namespace bkconf {
+namespace {
+
+constexpr QRgb Accent = 0xff1f6489;
+constexpr QRgb OnAccent = 0xffffffff;
+
+/// Fusion, but for groups: a card with its caption in bold at the top.
+class CardStyle : public QProxyStyle {
+ public:
+  CardStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    if (element != PE_FrameGroupBox) {
+      QProxyStyle::drawPrimitive(element, option, painter, widget);
+      return;
+    }
+    const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+    if (frame != nullptr && frame->features.testFlag(QStyleOptionFrame::Flat)) return;
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setBrush(option->palette.base());
+    painter->setPen(option->palette.color(QPalette::Midlight));
+    painter->drawRoundedRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5), Radius, Radius);
+    painter->restore();
+  }
+
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                          QPainter* painter, const QWidget* widget) const override {
+    const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
+    if (control != CC_GroupBox || group == nullptr) {
+      QProxyStyle::drawComplexControl(control, option, painter, widget);
+      return;
+    }
+    painter->save();
+    const QFont font = Bold(painter->font());
+    painter->setFont(font);
+    QStyleOptionGroupBox bold = *group;
+    bold.fontMetrics = QFontMetrics(font);
+    QProxyStyle::drawComplexControl(control, &bold, painter, widget);
+    painter->restore();
+  }
+
+  QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                       const QWidget* widget) const override {
+    QRect place = QProxyStyle::subControlRect(control, option, part, widget);
+    const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
+    if (control != CC_GroupBox || group == nullptr || group->text.isEmpty()) return place;
+    const int captionTop = FrameMargin * 2 / 3;
+    if (part == SC_GroupBoxLabel) {
+      const int contentLeft = subControlRect(control, option, SC_GroupBoxContents, widget).left();
+      place.moveTopLeft({contentLeft + FrameMargin, captionTop});
+    }
+    if (part == SC_GroupBoxContents) place.setTop(captionTop + option->fontMetrics.height());
+    return place;
+  }
+
+  static QFont Bold(QFont font) {
+    font.setWeight(QFont::DemiBold);
+    return font;
+  }
+
+ private:
+  static constexpr double Radius = 5;
+};
+
+QPalette LightPalette() {
+  QPalette palette(QColor(0xfc, 0xfc, 0xfd), QColor(0xee, 0xf1, 0xf4));
+  const QColor text(0x1c, 0x26, 0x30);
+  const QColor faint(0x8b, 0x95, 0x9f);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    palette.setColor(role, text);
+    palette.setColor(QPalette::Disabled, role, faint);
+  }
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::Midlight, QColor(0xd0, 0xd7, 0xdd));
+  palette.setColor(QPalette::Highlight, QColor(Accent));
+  palette.setColor(QPalette::HighlightedText, QColor(OnAccent));
+  palette.setColor(QPalette::ToolTipBase, Qt::white);
+  palette.setColor(QPalette::ToolTipText, text);
+  return palette;
+}
+
+/// Wider and taller than other buttons, and in the colour of the program while it can be pressed.
+void MakePrimary(QWidget& widget) {
+  QPalette palette = widget.palette();
+  for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+    palette.setColor(group, QPalette::Button, QColor(Accent));
+    palette.setColor(group, QPalette::ButtonText, QColor(OnAccent));
+  }
+  widget.setPalette(palette);
+  widget.setFont(CardStyle::Bold(widget.font()));
+  const int line = widget.fontMetrics().height();
+  widget.setMinimumSize(10 * line, 5 * line / 2);
+}
+
+}  // namespace
+
+void ApplyStyle(QApplication& application) {
+  application.setStyle(new CardStyle);
+  if (application.palette().color(QPalette::Window).lightness() >= 128) {
+    application.setPalette(LightPalette());
+  }
+}
+
+void ApplyLook(Look look, QWidget& widget) {
+  // All that can be pressed is tall enough to be hit without aiming.
+  const bool pressed = dynamic_cast<QPushButton*>(&widget) != nullptr ||
+                       dynamic_cast<QComboBox*>(&widget) != nullptr;
+  if (pressed) widget.setMinimumHeight(9 * widget.fontMetrics().height() / 4);
+  switch (look) {
+    case Look::Plain:
+      return;
+    case Look::Primary:
+      MakePrimary(widget);
+      return;
+    case Look::Heading:
+      widget.setFont(CardStyle::Bold(widget.font()));
+      return;
+  }
+}
+
+}  // namespace bkconf
