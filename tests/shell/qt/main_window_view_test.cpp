@@ -1,0 +1,243 @@
+#include <QAccessible>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+
+#include "link/transfer.h"
+#include "session/language.h"
+#include "session/settings.h"
+#include "shell/main_window.h"
+#include "shell/qt/layouts/main_window.h"
+#include "shell/qt/screen_window.h"
+#include "shell/qt/style.h"
+#include "stand_ins.h"
+
+using namespace bkconf;
+
+namespace {
+
+/// What a layout names, in its order.
+void CollectNames(const Part& part, QStringList& names) {
+  if (part.kind == PartKind::Line) names.append(ToQt(part.label));
+  if (!part.field.empty()) names.append(ToQt(part.field));
+  for (const Part& each : part.parts) CollectNames(each, names);
+}
+
+bool TakesFocus(const QWidget* widget) {
+  return widget->isVisible() && widget->isEnabled() && widget->focusPolicy() != Qt::NoFocus;
+}
+
+}  // namespace
+
+class MainWindowViewTest : public QObject {
+  Q_OBJECT
+ private Q_SLOTS:
+  void initTestCase() {
+    ApplyStyle(*qApp);
+    Language = qEnvironmentVariableIntValue("BKCONF_TEST_LANGUAGE");
+    QVERIFY(Language.Number() == 1 || Language.Number() == 2);
+    PortNumber = 3;
+    LoadMainWindow();
+    window_ = std::make_unique<ScreenWindow>(MainWindow, MainWindowLayout(),
+                                             [] { OtherPrograms->End(); });
+    QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
+  }
+  void cleanupTestCase() { window_.reset(); }
+  void init() {
+    NewModule();
+    window_->resize(1014, 660);
+    window_->Refresh();
+  }
+
+  void EveryFieldHasItsPlaceOnce() {
+    QStringList names;
+    CollectNames(MainWindowLayout(), names);
+    QStringList fields;
+    for (const Field* field : MainWindow.fields) {
+      if (field->kind != FieldKind::Menu) fields.append(ToQt(field->name));
+    }
+    names.sort();
+    fields.sort();
+    QCOMPARE(names, fields);
+  }
+
+  void EveryFieldHasAWidgetOrAnActionOfItsName() {
+    for (const Field* field : MainWindow.fields) {
+      const QString name = ToQt(field->name);
+      QVERIFY2(window_->findChild<QObject*>(name) != nullptr, qPrintable(name));
+    }
+  }
+
+  void TheWindowShowsWhatTheLogicShowsAtTheStart() {
+    QVERIFY(Find<QPushButton>("connect")->isEnabled());
+    QVERIFY(!Find<QPushButton>("send")->isEnabled());
+    QVERIFY(!Find<QComboBox>("generalAddress")->isEnabled());
+    QVERIFY(Find<QGroupBox>("generalGroup")->isVisible());
+    QVERIFY(!Find<QGroupBox>("alarmGroup")->isVisible());
+    QVERIFY(!Find<QGroupBox>("pictureGroup")->isVisible());
+    QCOMPARE(Find<QComboBox>("moduleList")->count(), 12);
+    QCOMPARE(Find<QAction>("p3")->isChecked(), true);
+    QCOMPARE(Find<QAction>(Language.Number() == 1 ? "ned" : "frans")->isChecked(), true);
+    QVERIFY(!Find<QAction>("openen")->isEnabled());
+    QVERIFY(Find<QAction>("p1")->text().contains(QStringLiteral("tty1")));
+  }
+
+  void ConnectLocksTheWindowAndShowsTheSearch() {
+    QTest::mouseClick(Find<QPushButton>("connect"), Qt::LeftButton);
+    QVERIFY(!Find<QPushButton>("connect")->isEnabled());
+    QVERIFY(!Find<QComboBox>("moduleList")->isEnabled());
+    QVERIFY(!Find<QMenu>("bestand")->menuAction()->isEnabled());
+    QVERIFY(Find<QWidget>("transferBar")->isVisible());
+    QCOMPARE(Find<QLabel>("status")->text(), ToQt(Text(TextId::SearchingModule)));
+    LeaveTransfer();
+    window_->Refresh();
+    QVERIFY(Find<QPushButton>("connect")->isEnabled());
+    QVERIFY(!Find<QWidget>("transferBar")->isVisible());
+  }
+
+  void AnAddressThatTheUserPicksGoesIntoTheTable() {
+    ShowKindWithCells(ModuleKinds[0]);
+    QComboBox* address = Find<QComboBox>("generalAddress");
+    QCOMPARE(address->currentText(), QStringLiteral("C"));
+    QTest::keyClick(address, Qt::Key_K);
+    QCOMPARE(ButtonImage[121].Whole(), int{'K'});
+  }
+
+  void TheFrameEndsTheProgramWithoutAQuestion() {
+    const int before = standIns_.programs.ends;
+    window_->close();
+    QCOMPARE(standIns_.programs.ends, before + 1);
+  }
+
+  void EveryKindFits_data() { AddKinds(); }
+  void EveryKindFits() {
+    QFETCH(int, row);
+    ShowKindWithCells(ModuleKinds[static_cast<std::size_t>(row)]);
+    QVERIFY(window_->width() <= 1014 && window_->height() <= 660);
+    const QRect area = window_->rect();
+    for (const QWidget* widget : VisibleFields()) {
+      const QSize needed = widget->minimumSizeHint();
+      const QByteArray name = widget->objectName().toUtf8();
+      QVERIFY2(widget->width() >= needed.width() && widget->height() >= needed.height(), name);
+      QVERIFY2(area.contains(QRect(widget->mapTo(window_.get(), QPoint()), widget->size())), name);
+      if (dynamic_cast<const QPushButton*>(widget) != nullptr) {
+        QVERIFY2(widget->width() >= widget->sizeHint().width(), name);
+      }
+    }
+  }
+
+  void NoTwoFieldsCoverEachOther_data() { AddKinds(); }
+  void NoTwoFieldsCoverEachOther() {
+    QFETCH(int, row);
+    ShowKindWithCells(ModuleKinds[static_cast<std::size_t>(row)]);
+    const QList<QWidget*> fields = VisibleFields();
+    for (const QWidget* one : fields) {
+      for (const QWidget* other : fields) {
+        if (one == other || one->isAncestorOf(other) || other->isAncestorOf(one)) continue;
+        QVERIFY2(!Place(one).intersects(Place(other)),
+                 qPrintable(one->objectName() + u' ' + other->objectName()));
+      }
+    }
+  }
+
+  void TheTabulatorGoesInReadingOrder_data() { AddKinds(); }
+  void TheTabulatorGoesInReadingOrder() {
+    QFETCH(int, row);
+    ShowKindWithCells(ModuleKinds[static_cast<std::size_t>(row)]);
+    for (const auto& button : MainWindow.actionButtons) button->onClick = [] {};
+    window_->Refresh();
+    QStringList expected;
+    CollectNames(MainWindowLayout(), expected);
+    expected.removeIf([this](const QString& name) {
+      return !TakesFocus(Find<QWidget>(name.toLatin1().constData()));
+    });
+    QWidget* first = Find<QWidget>(expected.front().toLatin1().constData());
+    first->setFocus();
+    QStringList visited;
+    do {
+      visited.append(window_->focusWidget()->objectName());
+      QTest::keyClick(window_.get(), Qt::Key_Tab);
+    } while (window_->focusWidget() != first && visited.size() <= expected.size());
+    QCOMPARE(visited, expected);
+    for (const auto& button : MainWindow.actionButtons) button->onClick = nullptr;
+  }
+
+  void EveryFieldHasANameForAScreenReader_data() { AddKinds(); }
+  void EveryFieldHasANameForAScreenReader() {
+    QFETCH(int, row);
+    ShowKindWithCells(ModuleKinds[static_cast<std::size_t>(row)]);
+    for (QWidget* widget : VisibleFields()) {
+      const QByteArray name = widget->objectName().toUtf8();
+      if (widget->objectName() == QStringLiteral("status")) continue;  // empty now and then
+      const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(widget);
+      QVERIFY2(spoken != nullptr, name);
+      QVERIFY2(!spoken->text(QAccessible::Name).isEmpty(), name);
+      if (dynamic_cast<const QComboBox*>(widget) == nullptr) continue;
+      QVERIFY2(!spoken->text(QAccessible::Description).isEmpty(), name);
+      const auto related = spoken->relations(QAccessible::Label);
+      QVERIFY2(!related.isEmpty(), name);
+    }
+  }
+
+  void TheBarIsNamedByTheStatus() {
+    StartTransfer();
+    window_->Refresh();
+    QCOMPARE(Find<QWidget>("transferBar")->accessibleName(), ToQt(Text(TextId::SearchingModule)));
+    LeaveTransfer();
+  }
+
+ private:
+  static void AddKinds() {
+    QTest::addColumn<int>("row");
+    for (int row = 0; const ModuleKind& kind : ModuleKinds) {
+      QTest::newRow(kind.identity.data()) << row;
+      ++row;
+    }
+  }
+
+  void ShowKindWithCells(const ModuleKind& kind) {
+    ActiveModuleType = kind.code;
+    Cell* cells[] = {
+        kind.address.table == nullptr ? nullptr : &(*kind.address.table)[kind.address.index],
+        &(*kind.version.table)[kind.version.index]};
+    if (cells[0] != nullptr) *cells[0] = int{'C'};
+    *cells[1] = 21;
+    Window.showModel(kind);
+    Window.showFields(kind);
+    Window.showModuleCells();
+    Window.enableModuleFields(true);
+    MainWindow.send.enabled = true;
+    Show(MainWindow.status.caption, TextId::SendingTimePrograms);
+    window_->Refresh();
+    QCoreApplication::processEvents();
+  }
+
+  QList<QWidget*> VisibleFields() const {
+    QList<QWidget*> widgets;
+    for (const Field* field : MainWindow.fields) {
+      if (field->kind == FieldKind::Menu) continue;
+      QWidget* widget = Find<QWidget>(field->name.c_str());
+      if (widget->isVisible()) widgets.append(widget);
+    }
+    return widgets;
+  }
+
+  QRect Place(const QWidget* widget) const {
+    return {widget->mapTo(window_.get(), QPoint()), widget->size()};
+  }
+
+  template <typename Widget>
+  Widget* Find(const char* name) const {
+    auto* found = window_->findChild<Widget*>(QString::fromLatin1(name));
+    if (found == nullptr) qFatal("There is no widget %s", name);
+    return found;
+  }
+
+  StandIns standIns_;
+  std::unique_ptr<ScreenWindow> window_;
+};
+
+QTEST_MAIN(MainWindowViewTest)
+#include "main_window_view_test.moc"

@@ -1,0 +1,70 @@
+// A machine that notes what is asked of it, for the tests of the windows.
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/machine.h"
+#include "shell/qt/message_boxes.h"
+#include "shell/qt/timer_driver.h"
+
+namespace bkconf {
+
+class NotedPort : public SerialPort {
+ public:
+  void SetNumber(int chosen) override { number = chosen; }
+  std::string DeviceOf(int port) const override { return port == 1 ? "tty1" : ""; }
+  bool Open() override { return isOpen = opens; }
+  void Close() override { isOpen = false; }
+  bool IsOpen() const override { return isOpen; }
+  int BytesWaiting() override { return 0; }
+  void FlushInput() override {}
+  std::optional<char> Read() override { return std::nullopt; }
+  void Write(std::string_view) override {}
+
+  int number = 0;
+  bool opens = true;
+  bool isOpen = false;
+};
+
+class NotedFiles : public Files {
+ public:
+  std::optional<std::string> Read(const std::string& path) const override {
+    const auto file = contents.find(path);
+    return file == contents.end() ? std::nullopt : std::optional(file->second);
+  }
+  void Write(const std::string& path, std::string_view content) override {
+    contents[path] = content;
+  }
+
+  std::map<std::string, std::string> contents;
+};
+
+class NotedPrograms : public Programs {
+ public:
+  bool Start(const std::string&) override { return false; }
+  bool StartThisProgram() override { return true; }
+  void End() override { ++ends; }
+
+  int ends = 0;
+};
+
+/// All of the machine that the logic asks for, put behind the logic's own names.
+struct StandIns {
+  StandIns() {
+    Port = &port;
+    FileSystem = &files;
+    OtherPrograms = &programs;
+    Messages = &boxes;
+    ActiveTickDriver = &driver;
+  }
+
+  NotedPort port;
+  NotedFiles files;
+  NotedPrograms programs;
+  QtMessageBoxes boxes;
+  TimerDriver driver;
+};
+
+}  // namespace bkconf
