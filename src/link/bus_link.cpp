@@ -3,6 +3,7 @@
 // speaks.
 #include "link/bus_link.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 
@@ -26,8 +27,8 @@ constexpr int LinkPeriod = 1;
 void Pause(double divisor) {
   // Far beyond any pause that makes sense, and far within what the counter can hold.
   constexpr double longest = 1e15;
-  BusyLoop(
-      static_cast<std::int64_t>(std::fmin(std::floor(CharDelayCount.Number() / divisor), longest)));
+  const double last = std::floor(CharDelayCount.Number() / divisor);
+  BusyLoop(static_cast<std::int64_t>(std::clamp(last, -1.0, longest)));
 }
 
 /// Throws away what comes until the module polls. The bar is raised before the line is looked at:
@@ -36,6 +37,7 @@ void AwaitPoll() {
   char last = 0;
   do {
     Window.bar->Advance();
+    if (Window.bar->draw) Window.bar->draw();
     if (Port->BytesWaiting() > 0) last = Port->Read().value_or('\0');
   } while (last != 'M');
 }

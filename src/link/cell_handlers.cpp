@@ -23,8 +23,12 @@ char TableDigit() {
   return RxLine.size() < 2 ? '\0' : RxLine[1];
 }
 
+/// The read that a line belongs to, or null. Kinds with a single table have no other lines: theirs
+/// are cells whatever the command.
 const ReadRow* PendingRead() {
-  return FindReadRow(ActiveCode(), PendingCommand.Text());
+  constexpr KindSet hasOneTable{6, 7, 8};
+  const bool always = hasOneTable.Contains(ActiveCode());
+  return FindReadRow(ActiveCode(), always ? std::string(ReadBase) : PendingCommand.Text());
 }
 
 /// What only some kinds do when their base table is complete.
@@ -39,9 +43,15 @@ void FinishBaseRead() {
   CloseRead();
 }
 
-/// Kinds 0, 1, 4, 5, 6, 7, 8, 9 and 11: one table a command, characters 1 and 2 not looked at. The
-/// cells of the master's scan move no bar.
-void HandleTableLine(const ReadRow& row) {
+/// One table a command, characters 1 and 2 not looked at. The cells of the master's scan move no
+/// bar. What is no read is a line of a live test.
+void HandleTableLine() {
+  const ReadRow* pending = PendingRead();
+  if (pending == nullptr) {
+    Raise(LinkEvent::TestLineReceived);
+    return;
+  }
+  const ReadRow& row = *pending;
   const int index = NumberAt(3, 5);
   if (row.barMaximum > 0) Window.bar->Advance();
   (*row.table)[index] = NumberAt(6, 8);
@@ -84,14 +94,13 @@ void HandleTemperatureLine() {
     (*row.table)[index] = NumberAt(6, 8);
     if (row.cleared != nullptr) *row.cleared = 0;
     const bool live = row.table == &TempRoomIds && PendingCommand.Text() == Read3;
-    if (live) Raise(LinkEvent::LiveTemperature);
+    if (live && !SentByUser()) Raise(LinkEvent::LiveTemperature);
     if (index != (live ? LastLiveTemperature : row.lastIndex)) return;
     if (row.table == &TempHeader) {
       TempRoomCount = TempHeader[1];
       FinishBaseRead();
     } else {
-      CloseRead();
-      Raise(LinkEvent::TemperatureRead);
+      CloseRead(LinkEvent::TemperatureRead);
     }
     return;
   }
@@ -101,24 +110,26 @@ void HandleTemperatureLine() {
 struct DisplayRow {
   char digit;
   Table* table;
-  int address;  ///< of cell 0
+  std::size_t indexFrom;  ///< the first of the characters up to 5 that tell the address
+  int address;            ///< of cell 0
   int lastIndex;
 };
 
 constexpr std::array<DisplayRow, 6> DisplayRows = {{
-    {'1', &LcdHeader, 1000, 1},
-    {'2', &LcdScreen1, 2000, 1019},
-    {'3', &LcdScreen1, 2000, 1019},
-    {'4', &LcdScreen2, 4000, 1019},
-    {'5', &LcdScreen2, 4000, 1019},
-    {'6', &LcdWeekdayNames, 6000, 20},
+    {'1', &LcdHeader, 3, 0, 1},
+    {'2', &LcdScreen1, 2, 2000, 1019},
+    {'3', &LcdScreen1, 2, 2000, 1019},
+    {'4', &LcdScreen2, 2, 4000, 1019},
+    {'5', &LcdScreen2, 2, 4000, 1019},
+    {'6', &LcdWeekdayNames, 2, 6000, 20},
 }};
 
-/// Lines of the display module carry a four-digit address in characters 2 to 5.
+/// Lines of the display module carry a four-digit address in characters 2 to 5, and the digit that
+/// names the table is the first of it.
 void HandleDisplayLine() {
   for (const DisplayRow& row : DisplayRows) {
     if (row.digit != TableDigit()) continue;
-    const int index = NumberAt(2, 5) - row.address;
+    const int index = NumberAt(row.indexFrom, 5) - row.address;
     (*row.table)[index] = NumberAt(6, 8);
     Window.bar->Advance();
     if (index != row.lastIndex) return;
@@ -126,29 +137,50 @@ void HandleDisplayLine() {
       FinishBaseRead();
       return;
     }
-    CloseRead();
     // "STOP" does nothing more after a display's table.
     if (row.table != &LcdWeekdayNames) UnlockMenus();
-    Raise(LinkEvent::DisplayRead);
+    CloseRead(LinkEvent::DisplayRead);
     return;
+  }
+}
+
+/// How the lines of a kind carry their cells.
+enum class LineForm { Table, Temperature, Display };
+
+struct HandlerRow {
+  KindSet kinds;
+  LineForm form;
+};
+
+constexpr auto Handlers = std::to_array<HandlerRow>({
+    {{0, 1, 4, 5, 6, 7, 8, 9, 11}, LineForm::Table},
+    {{2}, LineForm::Temperature},
+    {{3}, LineForm::Display},
+});
+
+void Handle(LineForm form) {
+  switch (form) {
+    case LineForm::Table:
+      HandleTableLine();
+      break;
+    case LineForm::Temperature:
+      HandleTemperatureLine();
+      break;
+    case LineForm::Display:
+      HandleDisplayLine();
+      break;
   }
 }
 
 }  // namespace
 
 bool HandleCellLine() {
-  const int kind = ActiveCode();
-  if (ActiveKind() == nullptr) return false;
-  if (kind == 2) {
-    HandleTemperatureLine();
-  } else if (kind == 3) {
-    HandleDisplayLine();
-  } else if (const ReadRow* row = PendingRead()) {
-    HandleTableLine(*row);
-  } else {
-    Raise(LinkEvent::TestLineReceived);
+  for (const HandlerRow& row : Handlers) {
+    if (!row.kinds.Contains(ActiveCode())) continue;
+    Handle(row.form);
+    return true;
   }
-  return true;
+  return false;
 }
 
 }  // namespace bkconf

@@ -6,7 +6,7 @@ namespace bkconf {
 
 /// Stores the line's cell and, at the last index of the read, closes the read for the eye. False
 /// when there is no handler for the kind in memory. Throws RuntimeError for an index outside the
-/// table and for a line past the end of the bar; nothing is stored then.
+/// table, with nothing stored, and for a line past the end of the bar.
 bool HandleCellLine();
 
 }  // namespace bkconf

@@ -23,7 +23,7 @@ std::string MiddleDigits(double number) {
 
 /// The cell as it stands, where it holds a number in some form.
 std::string TextOrZero(const Cell& cell) {
-  return cell.IsText() && !ReadsAsNumber(cell.Text()) ? "0" : cell.IsEmpty() ? "0" : cell.Text();
+  return ReadsAsNumber(cell.Text()) ? cell.Text() : "0";
 }
 
 }  // namespace

@@ -19,13 +19,14 @@ void SetUpWrite(const WriteRow& row) {
   Show(Window.status->caption, row.status);
 }
 
-void SetUpRead(const ReadRow& row) {
+void SetUpRead(const ModuleKind& kind, const ReadRow& row) {
   Window.bar->Start(row.barMaximum);
   // The scan of modules has no count of lines to show.
   Window.bar->visible = row.barMaximum > 0;
   Show(Window.status->caption, row.status);
-  // A read that a Send repeats is nobody's: no screen waits for it.
-  if (WriteInProgress.Number() == 0 && row.command != ReadBase) Raise(LinkEvent::TableReadStarted);
+  if (row.command == ReadBase) Window.showFields(kind);
+  // A read that a Send repeats is nobody's.
+  if (row.started && !SentByUser()) Raise(*row.started);
 }
 
 void SetUpTest() {
@@ -36,19 +37,26 @@ void SetUpTest() {
 
 /// Shows what module was found and prepares for the pending command.
 void SetUp(const ModuleKind& kind) {
-  Window.showKind(kind);
+  Window.showModel(kind);
   CommandSend.SetPeriod(CommandPeriod);
   CommandSend.Enable();
   const std::string command = PendingCommand.Text();
   const WriteRow* write = FindWriteRow(kind.code, command);
   // A Send with nothing to write repeats the last command. If that was a read, it is a read again.
-  if (WriteInProgress.Number() == 1 && write != nullptr) {
+  if (SentByUser() && write != nullptr) {
     SetUpWrite(*write);
   } else if (const ReadRow* read = FindReadRow(kind.code, command)) {
-    SetUpRead(*read);
+    SetUpRead(kind, *read);
   } else {
     SetUpTest();
   }
+}
+
+/// An image in memory takes a module of its own kind only; without one, any. What a file put there
+/// as a text is no kind, and fits nothing.
+bool Fits(const ModuleKind& kind) {
+  return ActiveModuleType.IsNumber() &&
+         (ActiveModuleType.Number() == NoModule || ActiveModuleType.Number() == kind.code);
 }
 
 }  // namespace
@@ -62,7 +70,7 @@ const ModuleKind* KindOfIdentity(std::string_view line) {
 
 void TestIdentity() {
   const ModuleKind* kind = KindOfIdentity(RxLine);
-  if (kind == nullptr || (ActiveCode() != NoModule && ActiveCode() != kind->code)) {
+  if (kind == nullptr || !Fits(*kind)) {
     Messages->Tell(std::string(Text(TextId::WrongModule)));
     LeaveTransfer();
     return;

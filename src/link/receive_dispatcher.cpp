@@ -19,8 +19,7 @@ enum class Outcome {
   StartWriting,    ///< the frames may go out; no line is read during a write
   EndMasterTable,  ///< free the window, then let the table's screen open
   Nothing,         ///< the read was closed by its last cell
-  EndTest,         ///< a live test is over
-  EndScan,         ///< the master's scan of modules is over
+  EndTest,         ///< a live test or the master's scan of modules is over
   EndBaseRead,     ///< free the window
 };
 
@@ -53,7 +52,7 @@ constexpr auto DispatchRows = std::to_array<DispatchRow>({
     {"STOP", {3}, false, {Read1, Read3}, Outcome::Nothing, std::nullopt},
     {"STOP", TestedModules, false, {TestLine}, Outcome::EndTest, LinkEvent::TestEnded},
     {"STOP", {9}, false, {TestLightSensor}, Outcome::EndTest, LinkEvent::TestEnded},
-    {"STOP", {9}, false, {Test4}, Outcome::EndScan, LinkEvent::ModuleScanEnded},
+    {"STOP", {9}, false, {Test4}, Outcome::EndTest, LinkEvent::ModuleScanEnded},
     {"STOP", {9}, false, {Test3}, Outcome::EndTest, LinkEvent::TestEnded},
     {"STOP", {}, true, AnyCommand, Outcome::EndBaseRead, std::nullopt},
 });
@@ -63,30 +62,20 @@ bool Holds(const DispatchRow& row) {
   if (!row.anyKind && !row.kinds.Contains(ActiveCode())) return false;
   if (row.commands == AnyCommand) return true;
   const std::string command = PendingCommand.Text();
-  return command == row.commands[0] || command == row.commands[1];
+  return !command.empty() && (command == row.commands[0] || command == row.commands[1]);
 }
 
 void AwaitNextLine() {
+  // A screen that was told of this line may have started the next transfer.
+  if (WakeUpWait.Enabled()) return;
   RxLine.clear();
   LinkTick.Enable();
-}
-
-void RaiseEventOf(const DispatchRow& row) {
-  if (row.event) Raise(*row.event);
-}
-
-/// Everything that a transfer locked comes back.
-void FreeWindow() {
-  WriteInProgress = 0;
-  Window.enableModuleFields(true);
-  UnlockButtons();
-  UnlockMenus();
 }
 
 void Carry(const DispatchRow& row) {
   switch (row.outcome) {
     case Outcome::Continue:
-      RaiseEventOf(row);
+      if (row.event) Raise(*row.event);
       AwaitNextLine();
       break;
     case Outcome::StartWriting:
@@ -95,20 +84,16 @@ void Carry(const DispatchRow& row) {
       break;
     case Outcome::EndMasterTable:
       RxLine.clear();
-      FreeWindow();
-      RaiseEventOf(row);
+      UnlockWindow(row.event);
       break;
     case Outcome::Nothing:
       break;
     case Outcome::EndTest:
-    case Outcome::EndBaseRead:
-      FreeWindow();
-      RaiseEventOf(row);
-      break;
-    case Outcome::EndScan:
-      FreeWindow();
       Show(Window.status->caption, TextId::Ready);
-      RaiseEventOf(row);
+      UnlockWindow(row.event);
+      break;
+    case Outcome::EndBaseRead:
+      UnlockWindow();
       break;
   }
 }

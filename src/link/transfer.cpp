@@ -1,5 +1,7 @@
 #include "link/transfer.h"
 
+#include <algorithm>
+
 #include "link/link_ticks.h"
 #include "link/read_table.h"
 #include "platform/machine.h"
@@ -7,13 +9,8 @@
 
 namespace bkconf {
 
-void Raise(LinkEvent event) {
-  const auto& handler = LinkHandlers[static_cast<std::size_t>(event)];
-  if (handler) handler();
-}
-
 bool StartTransfer() {
-  for (Tick* tick : LinkTicks) tick->Disable();
+  StopLink();
   TransferUnderWay = true;
   RxLine.clear();
   Window.enableMenus(false);
@@ -29,13 +26,16 @@ bool StartTransfer() {
   return true;
 }
 
-bool StartTableRead(std::string_view command) {
+bool StartRequest(std::string_view command) {
   PendingCommand = command;
-  // An earlier Send that was refused or hangs must not turn this read into a write.
   WriteInProgress = 0;
   const ReadRow* row = FindReadRow(ActiveCode(), command);
   if (row != nullptr && row->loaded != nullptr) *row->loaded = 1;
   return StartTransfer();
+}
+
+bool SentByUser() {
+  return WriteInProgress.Number() == 1;
 }
 
 void UnlockButtons() {
@@ -49,18 +49,40 @@ void UnlockMenus() {
   TransferUnderWay = false;
 }
 
-void CloseRead() {
+void UnlockWindow(std::optional<LinkEvent> told) {
+  const bool awaited = !SentByUser();
+  WriteInProgress = 0;
+  Window.enableModuleFields(true);
+  UnlockButtons();
+  UnlockMenus();
+  if (told && awaited) Raise(*told);
+}
+
+void CloseRead(std::optional<LinkEvent> told) {
+  const bool awaited = !SentByUser();
   WriteInProgress = 0;
   Window.bar->visible = false;
   Show(Window.status->caption, TextId::EditMode);
   Window.enableModuleFields(true);
   UnlockButtons();
+  if (told && awaited) Raise(*told);
+}
+
+void StopLink() {
+  for (Tick* tick : LinkTicks) tick->Disable();
 }
 
 void LeaveTransfer() {
-  for (Tick* tick : LinkTicks) tick->Disable();
+  StopLink();
   CloseRead();
   UnlockMenus();
+  Raise(LinkEvent::TransferLeft);
+}
+
+void LeaveFailedTransfer() {
+  const bool running = std::any_of(LinkTicks.begin(), LinkTicks.end(),
+                                   [](const Tick* tick) { return tick->Enabled(); });
+  if (TransferUnderWay || running) LeaveTransfer();
 }
 
 }  // namespace bkconf

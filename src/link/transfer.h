@@ -2,10 +2,11 @@
 // Connect, Send and the screens that read tables on demand start here; the engines end here.
 #pragma once
 
-#include <array>
 #include <functional>
+#include <optional>
 #include <string_view>
 
+#include "link/link_events.h"
 #include "platform/field.h"
 #include "session/state.h"
 
@@ -18,39 +19,15 @@ struct TransferWindow {
   ProgressField* bar = nullptr;
   ButtonField* connect = nullptr;
   ButtonField* send = nullptr;
-  std::function<void(bool)> enableMenus;            ///< the four menus and the selection list
-  std::function<void(bool)> enableActions;          ///< the action buttons of the kind in memory
-  std::function<void(bool)> enableModuleFields;     ///< address and what stands beside it
-  std::function<void(const ModuleKind&)> showKind;  ///< model, caption, picture, frame, group
+  std::function<void(bool)> enableMenus;              ///< the four menus and the selection list
+  std::function<void(bool)> enableActions;            ///< the action buttons of the kind in memory
+  std::function<void(bool)> enableModuleFields;       ///< address and what stands beside it
+  std::function<void(const ModuleKind&)> showModel;   ///< model, caption, picture, frame
+  std::function<void(const ModuleKind&)> showFields;  ///< group and action buttons after a read
   std::function<void()> showModuleCells;  ///< address, version and what stands beside them
 };
 
 inline TransferWindow Window;
-
-/// The moments of a transfer that belong to a screen. A screen's folder puts its handler into
-/// `LinkHandlers`; a moment without a handler passes.
-enum class LinkEvent {
-  TestStarted,       ///< setup step of a live test; its screen takes over status and bar
-  TableReadStarted,  ///< setup step of a read on demand
-  TestLineReceived,  ///< a line of a live test stands in RxLine
-  OutputsTestReady,  ///< the module took the command: the stop button may work
-  ButtonTestReady,
-  DetectorTestReady,
-  TestEnded,     ///< the module ended a live test by itself
-  ContextsRead,  ///< the table is complete and the window is free again
-  TimeProgramsRead,
-  LightProgramsRead,
-  ModuleListRead,  ///< the master's directory cells stand in ButtonImage
-  ModuleScanEnded,
-  TemperatureRead,  ///< an additional table of the temperature module is complete
-  LiveTemperature,  ///< one line of live temperatures stands in RxLine
-  DisplayRead,      ///< an additional table of the display module is complete
-};
-inline constexpr std::size_t LinkEventCount = static_cast<std::size_t>(LinkEvent::DisplayRead) + 1;
-
-inline std::array<std::function<void()>, LinkEventCount> LinkHandlers;
-
-void Raise(LinkEvent event);
 
 /// The end of the bar while the tool waits for a module's poll.
 inline constexpr int SearchMaximum = 20000;
@@ -63,19 +40,31 @@ inline bool TransferUnderWay = false;
 /// port cannot be opened: nothing runs then, the window stays locked and nothing is told.
 bool StartTransfer();
 
-/// Starts the read of an additional table on demand: sets `PendingCommand` and the load flag of the
-/// table, which counts as loaded from here on.
-bool StartTableRead(std::string_view command);
+/// Starts what a screen asks of the module: the read of an additional table, the scan of modules or
+/// a live test. Sets `PendingCommand` and the load flag of the table, which counts as loaded from
+/// here on. An earlier Send that was left or hangs does not make it a write.
+bool StartRequest(std::string_view command);
+
+/// True while a Send runs, also one that only repeats a read: no screen waits for that read.
+bool SentByUser();
 
 /// Gives Connect, Send and the action buttons back.
 void UnlockButtons();
 /// Gives the menus and the selection list back: the transfer is over.
 void UnlockMenus();
+/// Gives everything back, and then tells the screen that waits for it.
+void UnlockWindow(std::optional<LinkEvent> told = std::nullopt);
 /// The end of a read for the eye: bar hidden, "Edit mode", Connect, Send, fields and action buttons
-/// back.
-void CloseRead();
-/// Leaves a transfer that cannot go on: a refused identity, or a run-time error. No routine of the
-/// link runs any more, the window is free, and the image stays as it is.
+/// back. Then tells the screen that waits for it.
+void CloseRead(std::optional<LinkEvent> told = std::nullopt);
+
+/// Ends what the link does at the moment, wherever it stands. The window is not touched.
+void StopLink();
+/// Leaves a transfer that cannot go on, as after a refused identity: no routine of the link runs
+/// any more, the window is free, and the image stays as it is.
 void LeaveTransfer();
+/// What a run-time error does to the link: a transfer that is under way is left, and so is one that
+/// freed the window already and still awaits the module's last line.
+void LeaveFailedTransfer();
 
 }  // namespace bkconf

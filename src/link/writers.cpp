@@ -66,10 +66,7 @@ void FinishWrite() {
     StartTransfer();
     return;
   }
-  WriteInProgress = 0;
-  Window.enableModuleFields(true);
-  UnlockButtons();
-  UnlockMenus();
+  UnlockWindow();
 }
 
 /// The table is out: the next of its chain follows after a short pause of its own, or the write

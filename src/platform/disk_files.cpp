@@ -1,6 +1,6 @@
 #include "platform/disk_files.h"
 
-#include <cstdio>
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -9,6 +9,7 @@
 #include "platform/runtime_error.h"
 
 #if defined(__unix__) || defined(__APPLE__)
+#include <fcntl.h>
 #include <unistd.h>
 #endif
 
@@ -22,13 +23,23 @@ std::string LastReason() {
 }
 
 /// Makes what was written survive a crash of the machine, not only of the program.
-bool Sync(std::FILE* file) {
-  if (std::fflush(file) != 0) return false;
+bool Sync([[maybe_unused]] const std::string& path) {
 #if defined(__unix__) || defined(__APPLE__)
-  return fsync(fileno(file)) == 0;
+  const int file = open(path.c_str(), O_WRONLY | O_CLOEXEC);
+  if (file < 0) return false;
+  const bool synced = fsync(file) == 0;
+  return close(file) == 0 && synced;
 #else
   return true;
 #endif
+}
+
+/// Empty when the content is on the disk, else the reason why it is not.
+std::string WriteWhole(const std::string& path, std::string_view content) {
+  std::ofstream file(fs::u8path(path), std::ios::binary | std::ios::trunc);
+  file.write(content.data(), static_cast<std::streamsize>(content.size()));
+  file.close();
+  return file && Sync(path) ? "" : LastReason();
 }
 
 }  // namespace
@@ -45,12 +56,7 @@ std::optional<std::string> DiskFiles::Read(const std::string& path) const {
 
 void DiskFiles::Write(const std::string& path, std::string_view content) {
   const std::string beside = path + ".new";
-  std::FILE* file = std::fopen(beside.c_str(), "wb");
-  if (file == nullptr) throw RuntimeError(ErrorKind::FileNotWritten, path + ": " + LastReason());
-  const bool written =
-      std::fwrite(content.data(), 1, content.size(), file) == content.size() && Sync(file);
-  std::string reason = written ? "" : LastReason();
-  if (std::fclose(file) != 0 && reason.empty()) reason = LastReason();
+  std::string reason = WriteWhole(beside, content);
   std::error_code error;
   if (reason.empty()) {
     fs::rename(fs::u8path(beside), fs::u8path(path), error);

@@ -42,7 +42,6 @@ void ProgressField::SetValue(int value) {
                        name + ": " + std::to_string(value) + " > " + std::to_string(maximum_));
   }
   value_ = value;
-  if (draw) draw();
 }
 
 MenuField::MenuField(Screen& screen, MenuField* parent, std::string_view fieldName)

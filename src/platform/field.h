@@ -99,8 +99,9 @@ struct ProgressField : Field {
   void SetValue(int value);
   void Advance() { SetValue(value_ + 1); }
 
-  /// Draws the bar while a routine spins and holds the window. The only call from a field to its
-  /// view: during the wait for a poll, the climbing bar is all that shows that the program lives.
+  /// Draws the bar; for a routine that spins and holds the window. The only call from a field to
+  /// its view: during the wait for a poll, the climbing bar is all that shows that the program
+  /// lives.
   std::function<void()> draw;
 
  private:

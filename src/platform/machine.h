@@ -11,7 +11,7 @@
 namespace bkconf {
 
 /// One serial line: 9600 baud, 8 data bits, no parity, 1 stop bit, raw, no handshake.
-/// All operations but `Open` throw RuntimeError (PortFailed) when the device has failed.
+/// Reading, writing and flushing throw RuntimeError (PortFailed) when the device has failed.
 class SerialPort {
  public:
   virtual ~SerialPort() = default;

@@ -1,5 +1,4 @@
-// What Connect and New set back, as data. The main window walks these rows; so will the reader of
-// configuration files.
+// What Connect and New set back, as data. The main window walks these rows.
 #pragma once
 
 #include <span>

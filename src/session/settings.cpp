@@ -14,15 +14,15 @@ constexpr char Separator = '/';
 std::function<void()> sessionStarted;
 std::function<void(const std::string&)> settingAwaited;
 const Setting* nextSetting = nullptr;
+const Setting* told = nullptr;  ///< the one that the user knows start-up waits for
 
 /// Reads on from where the last try stopped: what was read stands.
 void ReadSettings() {
   for (; nextSetting != Settings.end(); ++nextSetting) {
     if (ReadSetting(*nextSetting)) continue;
-    if (!SettingsRetry.Enabled()) {
-      settingAwaited(SettingsPath(nextSetting->file));
-      SettingsRetry.Enable();
-    }
+    if (told != nextSetting) settingAwaited(SettingsPath(nextSetting->file));
+    told = nextSetting;
+    if (!SettingsRetry.Enabled()) SettingsRetry.Enable();
     return;
   }
   SettingsRetry.Disable();
@@ -30,7 +30,7 @@ void ReadSettings() {
 }
 
 void RetrySettings() {
-  // The messages of this time could be in the wrong language otherwise.
+  // The language may have been changed while start-up waited.
   ReadSetting(Settings.front());
   ReadSettings();
 }
@@ -73,6 +73,7 @@ void StartSession(std::function<void()> done,
   sessionStarted = std::move(done);
   settingAwaited = std::move(awaited);
   nextSetting = Settings.begin();
+  told = nullptr;
   ReadSettings();
 }
 

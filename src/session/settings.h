@@ -45,7 +45,7 @@ void StorePortNumber();
 /// Sets every flag to 0 and the kind in memory to none, then reads the settings, and runs `done`
 /// when all four are read. A file that is missing or unreadable is tried again every 100 ms without
 /// limit; before each new try "country.vdm" is read again, and a failure of that is ignored.
-/// `awaited` is told once which file start-up waits for.
+/// `awaited` is told once of each file that start-up waits for.
 void StartSession(std::function<void()> done, std::function<void(const std::string& path)> awaited);
 
 /// The retry of a settings file.

@@ -17,11 +17,12 @@ MainWindowScreen::MainWindowScreen()
     : Screen("MainWindow"),
       bestand(*this, nullptr, "bestand"),
       nieuw(*this, &bestand, "nieuw"),
-      openen(*this, &bestand, "openen"),
       lijn1(*this, &bestand, "lijn1"),
+      openen(*this, &bestand, "openen"),
+      lijn2(*this, &bestand, "lijn2"),
       Bewaren(*this, &bestand, "Bewaren"),
       Bewaren_als(*this, &bestand, "Bewaren_als"),
-      lijn2(*this, &bestand, "lijn2"),
+      lijn3(*this, &bestand, "lijn3"),
       Einde(*this, &bestand, "Einde"),
       taal(*this, nullptr, "taal"),
       ned(*this, &taal, "ned"),
@@ -36,7 +37,7 @@ MainWindowScreen::MainWindowScreen()
       p6(*this, &poort, "p6"),
       p7(*this, &poort, "p7"),
       p8(*this, &poort, "p8"),
-      lijn3(*this, &settings, "lijn3"),
+      lijn4(*this, &settings, "lijn4"),
       instellingen(*this, &settings, "instellingen"),
       Info(*this, nullptr, "Info"),
       Web(*this, &Info, "Web"),
@@ -201,9 +202,12 @@ void ShowModel() {
   Show(MainWindow.pictureGroup.caption, model->groupCaption);
 }
 
-void ShowKind(const ModuleKind& kind) {
+void ShowModelOf(const ModuleKind& kind) {
   MainWindow.moduleList.Show(kind.model);
   ShowModel();
+}
+
+void ShowGroupOf(const ModuleKind& kind) {
   ShowDataGroup(kind.group);
   ShowFieldsOf(&kind);
 }
@@ -215,8 +219,7 @@ void ShowModuleCells() {
   for (const CellField& field : CellFields()) {
     if (field.kinds.Contains(kind->code)) field.list->Show(CellAt(field.cell).Text());
   }
-  Show(fields.version.caption, TextId::Version);
-  fields.version.caption += VersionText(CellAt(kind->version));
+  fields.version.caption = std::string(Text(TextId::Version)) + VersionText(CellAt(kind->version));
   fields.version.visible = true;
 }
 
@@ -240,7 +243,9 @@ void EnableActions(bool enabled) {
 
 void EnableModuleFields(bool enabled) {
   const bool usable = enabled && ActiveKind() != nullptr;
-  for (const DataGroup group : DataGroups) MainWindow.Group(group).address.enabled = usable;
+  for (const DataGroup group : DataGroups) {
+    MainWindow.Group(group).address.enabled = usable && HasAddress(ActiveKind());
+  }
   for (const CellField& field : CellFields()) field.list->enabled = usable;
 }
 
@@ -307,7 +312,8 @@ void FillTransferWindow() {
             .enableMenus = EnableMenus,
             .enableActions = EnableActions,
             .enableModuleFields = EnableModuleFields,
-            .showKind = ShowKind,
+            .showModel = ShowModelOf,
+            .showFields = ShowGroupOf,
             .showModuleCells = ShowModuleCells};
 }
 
@@ -366,6 +372,8 @@ void Connect() {
 }
 
 void NewModule() {
+  // A display's table frees the window before the module's last line has come.
+  StopLink();
   AlarmImage[123] = 0;
   ActiveModuleType = NoModule;
   RxLine.clear();

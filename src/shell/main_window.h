@@ -29,9 +29,9 @@ struct MainWindowScreen : Screen {
   MainWindowScreen();
 
   // Menus
-  MenuField bestand, nieuw, openen, lijn1, Bewaren, Bewaren_als, lijn2, Einde;
+  MenuField bestand, nieuw, lijn1, openen, lijn2, Bewaren, Bewaren_als, lijn3, Einde;
   MenuField taal, ned, frans;
-  MenuField settings, poort, p1, p2, p3, p4, p5, p6, p7, p8, lijn3, instellingen;
+  MenuField settings, poort, p1, p2, p3, p4, p5, p6, p7, p8, lijn4, instellingen;
   MenuField Info, Web;
 
   // Selection and picture

@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 
+#include "link/transfer.h"
 #include "platform/machine.h"
 #include "platform/runtime_error.h"
 #include "session/language.h"
@@ -33,8 +34,8 @@ void ShowDevices() {
   for (std::size_t i = 0; i < entries.size(); ++i) {
     const int number = static_cast<int>(i) + 1;
     const std::string device = Port->DeviceOf(number);
-    entries[i]->caption =
-        "Com &" + std::to_string(number) + (device.empty() ? "" : "  -  " + device);
+    Show(entries[i]->caption, TextId::PortEntry);
+    entries[i]->caption += std::to_string(number) + (device.empty() ? "" : "  -  " + device);
   }
 }
 
@@ -71,8 +72,9 @@ void ShowMenuCaptions() {
 /// Starts the upgrade program and ends this one. False when it cannot be started.
 bool HandOver() {
   if (!OtherPrograms->Start("upgrade.exe")) return false;
-  FileSystem->Write(SettingsPath("upgrade.vdm"), "1\r\n");
+  // The other program has taken over: this one ends behind the event, even if the note fails.
   OtherPrograms->End();
+  FileSystem->Write(SettingsPath("upgrade.vdm"), "1\r\n");
   return true;
 }
 
@@ -87,7 +89,8 @@ Tick UpgradeHandOff{"UpgradeHandOff", 50, RunUpgradeHandOff};
 
 void FillMenus() {
   ShowMenuCaptions();
-  for (MenuField* line : {&MainWindow.lijn1, &MainWindow.lijn2, &MainWindow.lijn3}) {
+  for (MenuField* line :
+       {&MainWindow.lijn1, &MainWindow.lijn2, &MainWindow.lijn3, &MainWindow.lijn4}) {
     line->separator = true;
   }
   MainWindow.nieuw.onClick = NewModule;
@@ -117,11 +120,14 @@ void ChangeLanguage(int language) {
 }
 
 void ChangePort(int number) {
+  // A display's table frees the window before the module's last line has come.
+  StopLink();
   if (Port->IsOpen()) Port->Close();
   PortNumber = number;
   MarkPort();
-  StorePortNumber();
+  // First, so that the port is the one that is marked even if the number cannot be stored.
   Port->SetNumber(number);
+  StorePortNumber();
 }
 
 void HandOverOnRequest() {

@@ -53,8 +53,9 @@ char32_t TakeCodePoint(std::string_view& utf8) {
     }
     codePoint = codePoint << 6 | (at(i) & 0x3FU);
   }
+  constexpr std::array<char32_t, 5> lowest = {0, 0, 0x80, 0x800, 0x10000};
   utf8.remove_prefix(length);
-  return codePoint;
+  return codePoint < lowest[length] ? broken : codePoint;
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "image/tables.h"
 #include "link/link_ticks.h"
 #include "link/transfer.h"
+#include "shell/menus.h"
 #include "support/session_test.h"
 
 namespace bkconf {
@@ -146,7 +147,7 @@ TEST_F(AdditionalTableTest, AReadOnDemandBringsItsTablesAndSetsItsFlagAtTheStart
     ReadModule();
     *each.loaded = 0;
     WriteInProgress = 1;  // left by a Send that never came to its end
-    ASSERT_TRUE(StartTableRead(each.command));
+    ASSERT_TRUE(StartRequest(each.command));
     EXPECT_EQ(*each.loaded, Cell(1)) << each.command;
     FinishTransfer();
     for (const auto& [name, count] : each.tables) ExpectSameCells(module.memory(), name, count);
@@ -159,7 +160,7 @@ TEST_F(AdditionalTableTest, AReadOnDemandBringsItsTablesAndSetsItsFlagAtTheStart
 TEST_F(AdditionalTableTest, LiveTemperaturesArriveInTheirSlots) {
   const auto& module = Plug(2);
   ReadModule();
-  ASSERT_TRUE(StartTableRead("T83000"));
+  ASSERT_TRUE(StartRequest("T83000"));
   FinishTransfer();
   ExpectSameCells(module.memory(), "TempRoomIds", 0);
   for (int room = 0; room < 8; ++room) {
@@ -172,7 +173,7 @@ TEST_F(AdditionalTableTest, TheScanOfTheMasterFillsItsDirectory) {
   const auto& module = Plug(9);
   ReadModule();
   for (int cell = 123; cell <= 158; ++cell) ButtonImage[cell] = 42;
-  ASSERT_TRUE(StartTableRead("T80400"));
+  ASSERT_TRUE(StartRequest("T80400"));
   FinishTransfer();
   ExpectSameCells(module.memory(), "ButtonImage", 164);
   EXPECT_EQ(MainWindow.status.caption, "Ready");
@@ -197,7 +198,7 @@ TEST_F(AdditionalTableTest, EverythingOfAKindWithSeveralTablesGoesOutInOneSend) 
     const Memory source = Plug(each.kind, std::nullopt, 3).memory();
     ReadModule();
     for (const char* command : each.reads) {
-      ASSERT_TRUE(StartTableRead(command));
+      ASSERT_TRUE(StartRequest(command));
       FinishTransfer();
     }
     for (Cell* flag : each.dirty) *flag = 1;
@@ -280,7 +281,7 @@ class FaultTest : public SessionTest {
       clock.Advance(milliseconds);
     } catch (const RuntimeError& failure) {
       error = failure.kind;
-      if (TransferUnderWay) LeaveTransfer();
+      LeaveFailedTransfer();
     }
   }
 
@@ -359,6 +360,67 @@ TEST_F(FaultTest, AShortStreamLeavesTheOldCellsAndItsStatus) {
   EXPECT_TRUE(MainWindow.bestand.enabled);  // "STOP" came
 }
 
+TEST_F(FaultTest, AShortStreamOfADisplayKeepsTheWindowLocked) {
+  Plug(3);
+  ReadModule();
+  Plug(3, Fault::ShortStream);
+  ASSERT_TRUE(StartRequest("T81000"));
+  clock.Advance(60'000);
+  EXPECT_EQ(MainWindow.status.caption, "Inladen LCD Display 1...");
+  EXPECT_TRUE(WindowIsLocked());
+}
+
+TEST_F(FaultTest, ADisplayWhoseLastLineNeverComesLeavesNothingBehind) {
+  for (const auto& leave :
+       {std::function<void()>(NewModule), std::function<void()>([] { ChangePort(3); })}) {
+    ActiveModuleType = NoModule;
+    Plug(3);
+    ReadModule();
+    Plug(3, Fault::NoStop);
+    ASSERT_TRUE(StartRequest("T81000"));
+    FinishTransfer();
+    EXPECT_TRUE(LinkTick.Enabled());
+    leave();
+    EXPECT_FALSE(LinkTick.Enabled());
+    clock.Advance(100);
+  }
+}
+
+TEST_F(FaultTest, APortThatFailsWhileTheLastLineIsAwaitedLeavesTheTransfer) {
+  Plug(3);
+  ReadModule();
+  Plug(3, Fault::NoStop);
+  ASSERT_TRUE(StartRequest("T81000"));
+  FinishTransfer();
+  line.failed = true;
+  RunWithHandler(100);
+  EXPECT_EQ(error, ErrorKind::PortFailed);
+  ExpectFreeWindow();
+}
+
+TEST_F(FaultTest, AReadOnDemandWhosePortCannotBeOpenedLeavesTheWindowLocked) {
+  Plug(9);
+  ReadModule();
+  line.canOpen = false;
+  EXPECT_FALSE(StartRequest("T82000"));
+  EXPECT_EQ(MasterTimeLoaded, Cell(1));
+  EXPECT_FALSE(WakeUpWait.Enabled());
+  EXPECT_TRUE(WindowIsLocked());
+  EXPECT_EQ(MainWindow.status.caption, "Module zoeken...");
+}
+
+TEST_F(FaultTest, AScreenIsToldThatItsTransferWasLeft) {
+  Plug(3);
+  ReadModule();
+  int left = 0;
+  LinkHandlers[static_cast<std::size_t>(LinkEvent::TransferLeft)] = [&] { ++left; };
+  Plug(3, Fault::IndexBeyondTable);
+  ASSERT_TRUE(StartRequest("T81000"));
+  RunWithHandler(60'000);
+  EXPECT_EQ(error, ErrorKind::IndexOutsideTable);
+  EXPECT_EQ(left, 1);
+}
+
 TEST_F(FaultTest, LinesOutOfOrderAreStoredByTheirIndex) {
   for (const int kind : AllKinds) {
     ActiveModuleType = NoModule;
@@ -371,10 +433,20 @@ TEST_F(FaultTest, LinesOutOfOrderAreStoredByTheirIndex) {
 }
 
 TEST_F(FaultTest, CorruptDigitsAreUsedAsTheyCome) {
-  Plug(0, Fault::CorruptDigits);
+  const auto& module = Plug(0, Fault::CorruptDigits);
   ReadModule();
   EXPECT_EQ(MainWindow.status.caption, "Edit mode");
   EXPECT_TRUE(messages.told.empty());
+  // Every tenth line carries a value that is cut at its second character.
+  int cut = 0;
+  for (int index = 0; index < 164; ++index) {
+    if (ButtonImage[index].Number() != module.memory().Cells("ButtonImage")[std::size_t(index)]) {
+      EXPECT_LT(ButtonImage[index].Number(), 10);
+      ++cut;
+    }
+  }
+  EXPECT_GT(cut, 10);
+  EXPECT_LE(cut, 16);
 }
 
 TEST_F(FaultTest, AnUnknownIdentityIsTold) {

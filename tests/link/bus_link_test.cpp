@@ -110,12 +110,37 @@ TEST_F(BusLinkTest, EveryLookAtTheLineMovesTheBarUntilItOverflowsAndTheWaitStart
   EXPECT_EQ(line.AllWritten(), "");
 }
 
-TEST_F(BusLinkTest, APollOfAnEarlierTickDoesNotCount) {
+TEST_F(BusLinkTest, APollThatCameBetweenTwoTicksIsFlushed) {
   StartWithPoll();
-  clock.Advance(5);   // overflows
-  line.Receive("M");  // flushed at the start of the next tick
+  clock.Advance(5);  // overflows
+  line.Receive("M");
   clock.Advance(5);
   EXPECT_EQ(line.AllWritten(), "");
+}
+
+/// A line on which a poll is found at the look of the given number, counted from 1.
+class LatePollLine : public FakeLine {
+ public:
+  LatePollLine(VirtualClock& clock, int look) : FakeLine(clock), looksLeft_(look) {}
+  int BytesWaiting() override {
+    if (--looksLeft_ == 0) Receive("M");
+    return FakeLine::BytesWaiting();
+  }
+
+ private:
+  int looksLeft_;
+};
+
+TEST_F(BusLinkTest, APollAtTheLastLookBeforeTheOverflowIsAnsweredAndOneLookLaterNot) {
+  for (const int look : {20000, 20001}) {
+    LatePollLine late(clock, look);
+    late.Open();
+    Port = &late;
+    StartWithPoll();
+    clock.Advance(5);
+    EXPECT_EQ(late.AllWritten().size(), look == 20000 ? 22U : 0U) << look;
+  }
+  Port = &line;
 }
 
 TEST_F(BusLinkTest, ACharacterBeforeThePollIsThrownAway) {
@@ -259,7 +284,7 @@ TEST_F(BusLinkTest, APortThatCannotBeOpenedEndsTheEventWithTheWindowLocked) {
 TEST_F(BusLinkTest, ANegativePauseHoldsNothing) {
   CharDelayCount = -5;
   SendPaced("T000000");
-  EXPECT_EQ(loops, std::vector<std::int64_t>(6, -5));
+  EXPECT_EQ(loops, std::vector<std::int64_t>(6, -1));
   EXPECT_EQ(line.written.front().time, line.written.back().time);
 }
 

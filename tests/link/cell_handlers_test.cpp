@@ -19,7 +19,8 @@ class CellHandlersTest : public SessionTest {
     PendingCommand = command;
     ASSERT_TRUE(StartTransfer());
     WakeUpWait.Disable();
-    Window.showKind(*ActiveKind());
+    Window.showModel(*ActiveKind());
+    Window.showFields(*ActiveKind());
     MainWindow.transferBar.Start(barMaximum);
     MainWindow.status.caption = "reading";
   }
@@ -74,7 +75,7 @@ TEST_P(BaseReadTest, TheLastIndexClosesTheReadAndTheMenusStayLocked) {
   const DataGroupFields& fields = MainWindow.Group(ActiveKind()->group);
   EXPECT_TRUE(fields.version.visible);
   EXPECT_EQ(fields.address.visible, base.kind != 9);
-  EXPECT_TRUE(fields.address.enabled);
+  EXPECT_EQ(fields.address.enabled, base.kind != 9);
   EXPECT_EQ(fields.address.Text(), base.kind == 9 ? "" : "C");
 }
 
@@ -341,6 +342,60 @@ TEST_F(CellHandlersTest, TheAddressOfADisplayLineNamesTableAndCell) {
     ExpectOnlyChanged(
         before, {std::string(each.table->name) + "[" + std::to_string(each.index) + "]", "RxLine"});
     EXPECT_EQ(MainWindow.transferBar.Value(), 1);
+  }
+}
+
+TEST_F(CellHandlersTest, TheHeaderOfTheDisplayIsFoundByCharactersThreeToFive) {
+  Begin(3, "T80000", 4);
+  Handle("M1x01021");  // no digit at the front of the three: 0
+  EXPECT_EQ(LcdHeader[0], Cell(21));
+  EXPECT_TRUE(LcdHeader[1].IsEmpty());
+}
+
+TEST_F(CellHandlersTest, AudioSimulationAndIrTakeEveryLineAsACell) {
+  struct {
+    int kind;
+    Table* table;
+  } const kinds[] = {{6, &AudioImage}, {7, &SimulationImage}, {8, &IrImage}};
+  for (const auto& each : kinds) {
+    Begin(each.kind, "T70000", 600);
+    Handle("C0003007");
+    EXPECT_EQ((*each.table)[3], Cell(7)) << each.kind;
+    EXPECT_EQ(MainWindow.transferBar.Value(), 1);
+  }
+}
+
+TEST_F(CellHandlersTest, ALineBeyondTheBarOfAnAdditionalTableIsAnError) {
+  struct {
+    int kind;
+    const char* command;
+    const char* line;
+  } const cases[] = {{9, "T81000", "C0000001"},
+                     {2, "T81000", "M2000001"},
+                     {3, "T81000", "M2000001"},
+                     {3, "T85000", "M6000001"}};
+  for (const auto& each : cases) {
+    Begin(each.kind, each.command, 2);
+    Handle(each.line);
+    Handle(each.line);
+    RxLine = each.line;
+    EXPECT_THROW(HandleCellLine(), RuntimeError) << each.command;
+  }
+}
+
+TEST_F(CellHandlersTest, AReadThatASendRepeatsTellsNoScreen) {
+  struct {
+    int kind;
+    const char* line;
+  } const cases[] = {{2, "M5081008"}, {2, "M4335018"}, {3, "M3019000"}, {3, "M6020032"}};
+  for (const auto& each : cases) {
+    Begin(each.kind, "T81000", 1020);
+    WriteInProgress = 1;
+    int told = 0;
+    for (auto& handler : LinkHandlers) handler = [&] { ++told; };
+    Handle(each.line);
+    EXPECT_EQ(told, 0) << each.line;
+    EXPECT_EQ(WriteInProgress, Cell(0));
   }
 }
 

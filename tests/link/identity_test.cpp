@@ -47,9 +47,12 @@ class IdentityTest : public SessionTest {
     PendingCommand = "T80000";
     ASSERT_TRUE(StartTransfer());
     WakeUpWait.Disable();
+    WriteInProgress = sent;
     RxLine = identity;
     TestIdentity();
   }
+
+  int sent = 0;  ///< 1 when a Send started the transfer
 };
 
 TEST_F(IdentityTest, AnyKindIsAcceptedWhileThereIsNoImage) {
@@ -106,7 +109,7 @@ TEST_F(IdentityTest, ARefusalLeavesTheTransferWithTheWindowFreeAndThePortOpen) {
 }
 
 TEST_F(IdentityTest, ARefusedSendIsNoLongerAWrite) {
-  WriteInProgress = 1;
+  sent = 1;
   Identify("DISPL5", 0);
   EXPECT_EQ(WriteInProgress.Number(), 0);
 }
@@ -245,7 +248,7 @@ TEST_F(IdentityTest, AReadOnDemandIsAnnouncedToItsScreenAndARepeatedOneIsNot) {
   for (const int writeInProgress : {0, 1}) {
     int started = 0;
     Start();
-    LinkHandlers[static_cast<std::size_t>(LinkEvent::TableReadStarted)] = [&] { ++started; };
+    LinkHandlers[static_cast<std::size_t>(LinkEvent::DisplayReadStarted)] = [&] { ++started; };
     PendingCommand = "T81000";
     ASSERT_TRUE(StartTransfer());
     WriteInProgress = writeInProgress;

@@ -122,6 +122,48 @@ TEST_F(ReceiveDispatcherTest, TheEndOfTheLightSensorAndClockTestsIsToldToTheirSc
   EXPECT_EQ(Dispatch("STOP", 9, "T80300"), FreedWith(LinkEvent::TestEnded));
 }
 
+TEST_F(ReceiveDispatcherTest, TheEndOfALiveTestIsReady) {
+  for (const char* command : {"T80100", "T80500", "T80300"}) {
+    Dispatch("STOP", 9, command);
+    EXPECT_EQ(MainWindow.status.caption, "Ready") << command;
+  }
+}
+
+TEST_F(ReceiveDispatcherTest, NoRowOfACommandHoldsWhileThereIsNone) {
+  EXPECT_EQ(Dispatch("STOP", 9, ""), Freed);
+  EXPECT_EQ(Dispatch("M80000", 5, ""), Rearmed);
+}
+
+TEST_F(ReceiveDispatcherTest, AScreenThatStartsTheNextTransferIsNotDisturbed) {
+  Start();
+  ActiveModuleType = 3;
+  PendingCommand = "T81000";
+  ASSERT_TRUE(StartTransfer());
+  WakeUpWait.Disable();
+  MainWindow.transferBar.Start(2000);
+  LinkHandlers[static_cast<std::size_t>(LinkEvent::DisplayRead)] = [] { StartRequest("T83000"); };
+  RxLine = "M3019000";
+  ReceiveDispatcher();
+  EXPECT_FALSE(LinkTick.Enabled());
+  EXPECT_TRUE(WakeUpWait.Enabled());
+  EXPECT_TRUE(TransferUnderWay);
+}
+
+TEST_F(ReceiveDispatcherTest, NoScreenOpensAtTheEndOfAReadThatASendRepeats) {
+  Start();
+  ActiveModuleType = 9;
+  PendingCommand = "T81000";
+  int opened = 0;
+  LinkHandlers[static_cast<std::size_t>(LinkEvent::ContextsRead)] = [&] { ++opened; };
+  for (const int sent : {0, 1}) {
+    WriteInProgress = sent;
+    RxLine = "STOP";
+    ReceiveDispatcher();
+    EXPECT_EQ(opened, 1);
+    EXPECT_EQ(WriteInProgress.Number(), 0);
+  }
+}
+
 TEST_F(ReceiveDispatcherTest, TheEndOfTheModuleScanIsReady) {
   EXPECT_EQ(Dispatch("STOP", 9, "T80400"), FreedWith(LinkEvent::ModuleScanEnded));
   EXPECT_EQ(MainWindow.status.caption, "Ready");

@@ -195,11 +195,12 @@ TEST_F(MainWindowStartTest, TheMenusAreBuiltOfTheirEntriesInTheirOrder) {
   Start();
   using Entries = std::vector<MenuField*>;
   EXPECT_EQ(MainWindow.bestand.entries,
-            (Entries{&MainWindow.nieuw, &MainWindow.openen, &MainWindow.lijn1, &MainWindow.Bewaren,
-                     &MainWindow.Bewaren_als, &MainWindow.lijn2, &MainWindow.Einde}));
+            (Entries{&MainWindow.nieuw, &MainWindow.lijn1, &MainWindow.openen, &MainWindow.lijn2,
+                     &MainWindow.Bewaren, &MainWindow.Bewaren_als, &MainWindow.lijn3,
+                     &MainWindow.Einde}));
   EXPECT_EQ(MainWindow.taal.entries, (Entries{&MainWindow.ned, &MainWindow.frans}));
   EXPECT_EQ(MainWindow.settings.entries,
-            (Entries{&MainWindow.poort, &MainWindow.lijn3, &MainWindow.instellingen}));
+            (Entries{&MainWindow.poort, &MainWindow.lijn4, &MainWindow.instellingen}));
   EXPECT_EQ(MainWindow.poort.entries,
             (Entries{&MainWindow.p1, &MainWindow.p2, &MainWindow.p3, &MainWindow.p4, &MainWindow.p5,
                      &MainWindow.p6, &MainWindow.p7, &MainWindow.p8}));

@@ -1,0 +1,41 @@
+// The moments of a transfer that belong to a screen above the link.
+// The engines raise them; each screen's folder puts its handlers here before the session starts.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <functional>
+
+namespace bkconf {
+
+/// The moments of a transfer that belong to a screen. A screen's folder puts its handler into
+/// `LinkHandlers`; a moment without a handler passes.
+enum class LinkEvent {
+  TestStarted,             ///< setup step of a live test; its screen takes over status and bar
+  TemperatureReadStarted,  ///< setup step of a read on demand of the temperature module
+  DisplayReadStarted,      ///< setup step of a read on demand of the display module
+  TestLineReceived,        ///< a line of a live test stands in RxLine
+  OutputsTestReady,        ///< the module took the command: the stop button may work
+  ButtonTestReady,
+  DetectorTestReady,
+  TestEnded,     ///< the module ended a live test by itself
+  ContextsRead,  ///< the table is complete and the window is free again
+  TimeProgramsRead,
+  LightProgramsRead,
+  ModuleListRead,  ///< the master's directory cells stand in ButtonImage
+  ModuleScanEnded,
+  TemperatureRead,  ///< an additional table of the temperature module is complete
+  LiveTemperature,  ///< one line of live temperatures stands in RxLine
+  DisplayRead,      ///< an additional table of the display module is complete
+  TransferLeft,     ///< the transfer was left before its end; what waits for it waits in vain
+};
+inline constexpr std::size_t LinkEventCount = static_cast<std::size_t>(LinkEvent::TransferLeft) + 1;
+
+inline std::array<std::function<void()>, LinkEventCount> LinkHandlers;
+
+inline void Raise(LinkEvent event) {
+  const auto& handler = LinkHandlers[static_cast<std::size_t>(event)];
+  if (handler) handler();
+}
+
+}  // namespace bkconf
