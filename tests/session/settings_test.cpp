@@ -193,7 +193,7 @@ TEST_F(SettingsTest, ACountryThatVanishesBetweenTwoTriesStopsNothing) {
   EXPECT_EQ(awaited, std::vector<std::string>{SettingsPath("pc.vdm")});
 }
 
-TEST_F(SettingsTest, SeveralMissingFilesAreWaitedForOneAfterTheOther) {
+TEST_F(SettingsTest, SeveralMissingFilesAreWaitedForAndToldOneAfterTheOther) {
   for (const std::string& name : Names) Take(name);
   Begin();
   for (const std::string& name : Names) {
@@ -203,6 +203,9 @@ TEST_F(SettingsTest, SeveralMissingFilesAreWaitedForOneAfterTheOther) {
     clock.Advance(100);
   }
   EXPECT_EQ(started, 1);
+  std::vector<std::string> paths;
+  for (const std::string& name : Names) paths.push_back(SettingsPath(name));
+  EXPECT_EQ(awaited, paths);
 }
 
 TEST_F(SettingsTest, AFileOfNoBytesIsStillBeingWrittenAndIsTriedAgain) {

@@ -205,7 +205,8 @@ TEST_F(MainWindowStartTest, TheMenusAreBuiltOfTheirEntriesInTheirOrder) {
             (Entries{&MainWindow.p1, &MainWindow.p2, &MainWindow.p3, &MainWindow.p4, &MainWindow.p5,
                      &MainWindow.p6, &MainWindow.p7, &MainWindow.p8}));
   EXPECT_EQ(MainWindow.Info.entries, Entries{&MainWindow.Web});
-  for (const MenuField* each : {&MainWindow.lijn1, &MainWindow.lijn2, &MainWindow.lijn3}) {
+  for (const MenuField* each :
+       {&MainWindow.lijn1, &MainWindow.lijn2, &MainWindow.lijn3, &MainWindow.lijn4}) {
     EXPECT_TRUE(each->separator) << each->name;
   }
 }
@@ -264,9 +265,11 @@ TEST_F(MainWindowStartTest, AnotherLanguageLeavesTheCaptionsOfTheDesignAndMarksN
 
 TEST_F(MainWindowStartTest, AModuleIsReadInALanguageThatThereIsNot) {
   StartWith("country.vdm", "x\r\n");
-  Plug(5);
+  Plug(5).memory().Cells(std::string_view("AlarmImage"))[148] = 21;
+  ReadModule();
   ReadModule();
   EXPECT_EQ(MainWindow.status.caption, "Edit mode");
+  EXPECT_EQ(MainWindow.alarm.version.caption, "2.1");
   EXPECT_EQ(ActiveCode(), 5);
 }
 

@@ -155,6 +155,16 @@ TEST_F(MenusTest, ThePortThatIsSetAlreadyIsClosedAndStaysMarked) {
   EXPECT_EQ(PortNumber, Cell(3));
 }
 
+TEST_F(MenusTest, APortThatCannotBeStoredIsInUseAllTheSame) {
+  Start();
+  files.full = true;
+  line.calls.clear();
+  EXPECT_THROW(MainWindow.p3.Click(), RuntimeError);
+  EXPECT_TRUE(MainWindow.p3.checked);
+  EXPECT_EQ(line.calls, Events{"number 3"});
+  EXPECT_EQ(Content("port.vdm"), "1\r\n");
+}
+
 TEST_F(MenusTest, OpeningThePortMenuShowsTheDevicesOfThisMoment) {
   Start();
   const std::string shown = MainWindow.p5.caption;
@@ -212,6 +222,14 @@ TEST_F(MenusTest, AnUpgradeProgramThatStartsTakesOver) {
   clock.Advance(50);
   EXPECT_EQ(programs.events, (Events{"start upgrade.exe", "end"}));
   EXPECT_EQ(Content("upgrade.vdm"), "1\r\n");
+}
+
+TEST_F(MenusTest, ThisProgramEndsEvenIfTheNoteOfTheHandOffCannotBeWritten) {
+  programs.canStart = true;
+  Start();
+  files.full = true;
+  EXPECT_THROW(clock.Advance(50), RuntimeError);
+  EXPECT_EQ(programs.events, (Events{"start upgrade.exe", "end"}));
 }
 
 TEST_F(MenusTest, WithoutAnUpgradeProgramTheSessionGoesOnAsIfNothingHadHappened) {

@@ -1,7 +1,12 @@
 // The entry `nieuw`: what it empties, and what it leaves.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "image/commands.h"
 #include "image/tables.h"
+#include "link/link_ticks.h"
+#include "link/transfer.h"
 #include "support/session_test.h"
 
 namespace bkconf {
@@ -98,6 +103,38 @@ TEST_P(NewModuleTest, ASecondTimeChangesNothingMore) {
   MainWindow.nieuw.Click();
   ExpectOnlyChanged(before, {});
   EXPECT_TRUE(MainWindow.general.frame.visible);
+}
+
+/// A display's table frees the window at its last cell, while the module's last line is on its way.
+class NewBehindADisplayTest : public SessionTest {
+ protected:
+  NewBehindADisplayTest() {
+    Start();
+    Plug(3);
+    ReadModule();
+    StartRequest(Read1);
+    FinishTransfer();
+  }
+  static bool AnyLinkTick() {
+    return std::any_of(LinkTicks.begin(), LinkTicks.end(),
+                       [](const Tick* tick) { return tick->Enabled(); });
+  }
+};
+
+TEST_F(NewBehindADisplayTest, NewWaitsForNoLastLine) {
+  ASSERT_TRUE(AnyLinkTick());
+  MainWindow.nieuw.Click();
+  EXPECT_FALSE(AnyLinkTick());
+  const Snapshot before = TakeSnapshot();
+  clock.Advance(1000);
+  ExpectOnlyChanged(before, {});
+}
+
+TEST_F(NewBehindADisplayTest, APortChangeWaitsForNoLastLine) {
+  ASSERT_TRUE(AnyLinkTick());
+  MainWindow.p2.Click();
+  EXPECT_FALSE(AnyLinkTick());
+  EXPECT_FALSE(line.IsOpen());
 }
 
 INSTANTIATE_TEST_SUITE_P(Kinds, NewModuleTest, testing::ValuesIn(AllKinds),

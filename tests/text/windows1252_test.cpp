@@ -91,6 +91,22 @@ TEST(Windows1252Test, ACharacterThatIsCutShortSwallowsNothingOfWhatFollows) {
   }
 }
 
+TEST(Windows1252Test, ALongerFormOfACharacterThanNeededIsNoCharacter) {
+  for (const char* broken : {"\xC1\x81", "\xE0\x81\x81", "\xF0\x80\x81\x81"}) {
+    const std::string bytes = ToWindows1252(broken);
+    EXPECT_EQ(bytes, std::string(bytes.size(), '?'));
+    EXPECT_FALSE(bytes.empty());
+  }
+}
+
+TEST(Windows1252Test, AByteThatNoCharacterBeginsWithBecomesAQuestionMark) {
+  for (const char* broken : {"\xFF", "\xF8\x80\x81\x81", "\xFF\x80\x81\x81"}) {
+    const std::string bytes = ToWindows1252(broken);
+    EXPECT_EQ(bytes, std::string(bytes.size(), '?'));
+    EXPECT_FALSE(bytes.empty());
+  }
+}
+
 TEST(Windows1252Test, AnEmptyTextIsEmptyInBothSets) {
   EXPECT_EQ(ToWindows1252(""), "");
   EXPECT_EQ(FromWindows1252(""), "");
