@@ -47,8 +47,8 @@ class Cell {
 /// Plain decimal text: "12", "-5", "1.5"; whole numbers without a point, never an exponent.
 std::string PlainText(double number);
 
-/// Blanks around it aside: an optional sign, digits, and optionally a point and digits. None for
-/// anything else: no exponents, no hexadecimal, no thousands marks.
+/// Blanks around it aside: an optional sign, and digits with at most one point before, between or
+/// behind them. None for anything else: no exponents, no hexadecimal, no thousands marks.
 std::optional<double> ReadsAsNumber(std::string_view text);
 
 /// The digits up to the first character that is none: no blank is skipped and no sign is known, so

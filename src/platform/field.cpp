@@ -26,8 +26,13 @@ void ListField::Pick(int index) {
 
 void ListField::Type(std::string_view text) {
   if (!enabled || !visible) return;
+  const std::string before = text_;
   Show(text);
-  if (onTyped) onTyped();
+  if (onTyped) {
+    onTyped();
+  } else {
+    Show(before);
+  }
 }
 
 void ProgressField::Start(int maximum) {

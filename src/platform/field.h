@@ -49,9 +49,8 @@ struct ListField : Field {
       : Field(screen, FieldKind::List, fieldName) {}
 
   std::vector<std::string> items;
-  std::function<void()> onPick;  ///< runs after an item was picked
-  std::function<void()>
-      onTyped;  ///< runs after a text was typed; a fixed list shows its value again
+  std::function<void()> onPick;   ///< runs after an item was picked
+  std::function<void()> onTyped;  ///< runs after a text was typed
 
   int Index() const { return index_; }               ///< -1 when no item is picked
   const std::string& Text() const { return text_; }  ///< what the field shows
@@ -63,7 +62,8 @@ struct ListField : Field {
   /// Picks an item and runs `onPick`, as a user does, whether a person or logic picks. A disabled
   /// or hidden list, or an index outside the items, changes nothing.
   void Pick(int index);
-  /// Types a text over what the field shows and runs `onTyped`.
+  /// Types a text over what the field shows and runs `onTyped`. Without a handler the list takes
+  /// no free text: what it showed comes back.
   void Type(std::string_view text);
 
  private:

@@ -244,17 +244,30 @@ void EnableActions(bool enabled) {
 void EnableModuleFields(bool enabled) {
   const bool usable = enabled && ActiveKind() != nullptr;
   for (const DataGroup group : DataGroups) {
-    MainWindow.Group(group).address.enabled = usable && HasAddress(ActiveKind());
+    MainWindow.Group(group).address.enabled =
+        usable && HasAddress(ActiveKind()) && ActiveKind()->group == group;
   }
-  for (const CellField& field : CellFields()) field.list->enabled = usable;
+  for (const CellField& field : CellFields()) {
+    field.list->enabled = usable && field.kinds.Contains(ActiveCode());
+  }
 }
+
+/// Kinds whose address goes out with a table of its own: the flag that a new letter sets.
+struct AddressFlag {
+  int kind;
+  Cell* dirty;
+};
+
+constexpr auto AddressFlags =
+    std::to_array<AddressFlag>({{2, &TempHeaderDirty}, {3, &LcdHeaderDirty}});
 
 /// The letter goes to the module with the rest of its table.
 void PickAddress(const ListField& list) {
   const ModuleKind* kind = ActiveKind();
   CellAt(kind->address) = static_cast<int>(list.Text().front());
-  if (kind->code == 2) TempHeaderDirty = 1;
-  if (kind->code == 3) LcdHeaderDirty = 1;
+  for (const AddressFlag& row : AddressFlags) {
+    if (row.kind == kind->code) *row.dirty = 1;
+  }
 }
 
 void ShowAddressAgain(ListField& list) {
@@ -270,17 +283,20 @@ void PickCell(const CellField& field) {
 void FillLists() {
   for (const DataGroup group : DataGroups) {
     ListField& address = MainWindow.Group(group).address;
+    address.items.clear();
     for (char letter = 'A'; letter <= 'R'; ++letter) address.items.emplace_back(1, letter);
     address.onPick = [&address] { PickAddress(address); };
     address.onTyped = [&address] { ShowAddressAgain(address); };
   }
   for (const CellField& field : CellFields()) {
+    field.list->items.clear();
     for (int number = field.lowest; number <= field.highest; ++number) {
       field.list->items.push_back(std::to_string(number));
     }
     field.list->onPick = [&field] { PickCell(field); };
     field.list->onTyped = [&field] { field.list->Show(CellAt(field.cell).Text()); };
   }
+  MainWindow.moduleList.items.clear();
   for (const Model& model : Models) MainWindow.moduleList.items.emplace_back(model.name);
   MainWindow.moduleList.onPick = ShowModel;
 }

@@ -107,7 +107,8 @@ void FillMenus() {
     ++number;
   }
   MarkPort();
-  Port->SetNumber(PortNumber.Whole());
+  // What is no whole number names no port.
+  Port->SetNumber(PortNumber.Number() == PortNumber.Whole() ? PortNumber.Whole() : 0);
 }
 
 void ChangeLanguage(int language) {

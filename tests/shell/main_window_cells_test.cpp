@@ -221,5 +221,18 @@ TEST_F(MainWindowCellsTest, AnyOtherToleranceOfAModuleIsShownAsItIs) {
   EXPECT_EQ(MainWindow.tolerance.Index(), -1);
 }
 
+class HiddenGroupTest : public SessionTest {};
+
+TEST_F(HiddenGroupTest, OnlyTheAddressOfTheGroupOfTheKindCanBePicked) {
+  Start();
+  Plug(5);
+  ReadModule();
+  const Snapshot before = TakeSnapshot();
+  MainWindow.general.address.Pick(3);
+  MainWindow.special.address.Pick(3);
+  MainWindow.roomCount.Pick(3);
+  ExpectOnlyChanged(before, {});
+}
+
 }  // namespace
 }  // namespace bkconf

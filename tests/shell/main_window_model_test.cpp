@@ -145,5 +145,14 @@ TEST_F(ModelListTest, TheListIsDisabledDuringATransfer) {
   EXPECT_TRUE(MainWindow.moduleList.enabled);
 }
 
+class ModelTypingTest : public SessionTest {};
+
+TEST_F(ModelTypingTest, TypingInTheSelectionListPutsTheModelBack) {
+  Start();
+  MainWindow.moduleList.Pick(2);
+  MainWindow.moduleList.Type("x");
+  EXPECT_EQ(MainWindow.moduleList.Text(), "KR7110");
+}
+
 }  // namespace
 }  // namespace bkconf

@@ -284,5 +284,13 @@ TEST_F(MenusTest, TheUpgradeButtonShowsNoPictureWithoutAModel) {
   EXPECT_TRUE(MainWindow.general.frame.visible);
 }
 
+TEST_F(MenusTest, APortNumberWithAFractionMarksNoneAndOpensNone) {
+  PutSettings();
+  files.content[SettingsPath("port.vdm")] = "3.5\r\n";
+  StartSession(LoadMainWindow, [](const std::string&) {});
+  EXPECT_EQ(line.calls.back(), "number 0");
+  EXPECT_FALSE(MainWindow.p3.checked);
+}
+
 }  // namespace
 }  // namespace bkconf
