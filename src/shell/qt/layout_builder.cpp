@@ -1,7 +1,7 @@
 #include "shell/qt/layout_builder.h"
 
 #include <QBoxLayout>
-#include <QFormLayout>
+#include <QGridLayout>
 #include <QLabel>
 
 #include "shell/qt/style.h"
@@ -63,16 +63,16 @@ QLayout* LayoutBuilder::BuildBox(const Part& part) {
   return box;
 }
 
+/// A grid and no QFormLayout, which leaves a hole for each hidden line.
 QLayout* LayoutBuilder::BuildForm(const Part& part) {
-  auto* form = new QFormLayout;
+  auto* form = new QGridLayout;
   form->setHorizontalSpacing(Spacing);
   form->setVerticalSpacing(LineSpacing);
-  form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
-  for (const Part& line : part.parts) {
-    QWidget* label = Place(Item(line.label));
-    // As tall as its line, so that the text stands in the middle of it.
-    label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
-    form->addRow(label, BuildLine(line));
+  form->setColumnStretch(1, 1);
+  for (int row = 0; const Part& line : part.parts) {
+    form->addWidget(Place(Item(line.label)), row, 0);
+    form->addLayout(BuildLine(line), row, 1);
+    ++row;
   }
   return form;
 }
@@ -80,6 +80,7 @@ QLayout* LayoutBuilder::BuildForm(const Part& part) {
 QLayout* LayoutBuilder::BuildLine(const Part& line) {
   std::vector<Part> parts = {Labelled(line.label, line.field)};
   parts.insert(parts.end(), line.parts.begin(), line.parts.end());
+  parts.push_back(Space());
   return BuildBox(Row(std::move(parts)));
 }
 

@@ -1,6 +1,5 @@
 #include "shell/qt/serial_port.h"
 
-#include <algorithm>
 #include <chrono>
 #include <cstdio>
 
@@ -19,7 +18,7 @@
 namespace bkconf {
 namespace {
 
-constexpr std::size_t BufferSize = 1024;
+constexpr qint64 BufferSize = 1024;
 constexpr auto EmptyQueryTime = std::chrono::microseconds(20);
 
 /// A sleep would take three times as long as asked for, so this turns on the clock.
@@ -61,7 +60,7 @@ bool HungUp([[maybe_unused]] const QSerialPort& serial) {
 }  // namespace
 
 QtSerialPort::QtSerialPort() {
-  QObject::connect(&serial_, &QSerialPort::readyRead, &serial_, [this] { Keep(); });
+  serial_.setReadBufferSize(BufferSize);
   QObject::connect(&serial_, &QSerialPort::errorOccurred, &serial_,
                    [this](QSerialPort::SerialPortError error) { Notice(error); });
 }
@@ -102,30 +101,27 @@ bool QtSerialPort::Configure() {
 void QtSerialPort::Close() {
   if (serial_.isOpen()) serial_.close();
   failed_ = false;
-  received_.clear();
 }
 
 int QtSerialPort::BytesWaiting() {
   const auto start = std::chrono::steady_clock::now();
   Collect();
-  if (received_.empty()) SpinUntil(start + EmptyQueryTime);
-  return static_cast<int>(received_.size());
+  const int waiting = static_cast<int>(serial_.bytesAvailable());
+  if (waiting == 0) SpinUntil(start + EmptyQueryTime);
+  return waiting;
 }
 
 void QtSerialPort::FlushInput() {
   CheckDevice();
   serial_.clear(QSerialPort::Input);
-  received_.clear();
   CheckDevice();
 }
 
 std::optional<char> QtSerialPort::Read() {
-  if (received_.empty()) Collect();
+  if (serial_.bytesAvailable() == 0) Collect();
   CheckDevice();
-  if (received_.empty()) return std::nullopt;
-  const char first = received_.front();
-  received_.erase(received_.begin());
-  return first;
+  char character = 0;
+  return serial_.getChar(&character) ? std::optional(character) : std::nullopt;
 }
 
 void QtSerialPort::Write(std::string_view characters) {
@@ -141,15 +137,8 @@ void QtSerialPort::Collect() {
   // Looks at the device, which otherwise only the event loop does. Whether it found something is
   // seen below.
   serial_.waitForReadyRead(0);
-  Keep();
-  if (received_.empty() && HungUp(serial_)) failed_ = true;
+  if (serial_.bytesAvailable() == 0 && HungUp(serial_)) failed_ = true;
   CheckDevice();
-}
-
-void QtSerialPort::Keep() {
-  const QByteArray bytes = serial_.readAll();
-  const std::size_t room = BufferSize - received_.size();
-  received_.append(bytes.constData(), std::min(static_cast<std::size_t>(bytes.size()), room));
 }
 
 void QtSerialPort::Notice(QSerialPort::SerialPortError error) {

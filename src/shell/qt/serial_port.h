@@ -8,7 +8,8 @@
 namespace bkconf {
 
 /// Works without the event loop as well as in it: routines of the link spin on it and hold the
-/// window. Holds at most 1024 characters that nobody has read; what comes on top of them is lost.
+/// window. Holds at most 1024 characters that nobody has read. Those on top of them stay with the
+/// system until there is room, and are lost when its buffer is full as well.
 class QtSerialPort : public SerialPort {
  public:
   QtSerialPort();
@@ -30,7 +31,6 @@ class QtSerialPort : public SerialPort {
   bool Configure();
   /// Takes over what the device has, without waiting. Throws when the device has gone.
   void Collect();
-  void Keep();
   void Notice(QSerialPort::SerialPortError error);
   void CheckDevice();
   [[noreturn]] void ThrowFailed();
@@ -38,8 +38,7 @@ class QtSerialPort : public SerialPort {
   QSerialPort serial_;
   int number_ = 0;
   bool failed_ = false;
-  std::string device_;    ///< of the last opening
-  std::string received_;  ///< characters not read yet
+  std::string device_;  ///< of the last opening
 };
 
 }  // namespace bkconf

@@ -181,6 +181,25 @@ class MainWindowViewTest : public QObject {
     }
   }
 
+  void KindsWithFewerFieldsLeaveNoHoleForThem() {
+    const auto gap = [this](const char* button) {
+      const QRect version = Place(Find<QWidget>("displayTemperatureVersion"));
+      return Place(Find<QWidget>(button)).top() - version.bottom();
+    };
+    ShowKindWithCells(*FindKind(3));
+    const int display = gap("display1");
+    ShowKindWithCells(*FindKind(2));
+    const int temperature = gap("roomIds");
+    QVERIFY(display < 30);
+    QVERIFY(temperature > 2 * display);
+  }
+
+  void TheMastersVersionStandsWhereOtherwiseTheAddressDoes() {
+    ShowKindWithCells(*FindKind(9));
+    QCOMPARE(Place(Find<QWidget>("generalVersion")).left(),
+             Place(Find<QWidget>("generalButtons")).left());
+  }
+
   void TheBarIsNamedByTheStatus() {
     StartTransfer();
     window_->Refresh();

@@ -215,6 +215,17 @@ class ViewsTest : public QObject {
     QVERIFY(third->x() > first->x());
   }
 
+  void AHiddenLineOfAFormLeavesNoHole() {
+    const int height = window_->centralWidget()->sizeHint().height();
+    const int line = Find<QComboBox>("list")->sizeHint().height();
+    screen_->label.visible = screen_->list.visible = false;
+    window_->Refresh();
+    QTRY_VERIFY(window_->centralWidget()->sizeHint().height() <= height - line);
+    screen_->label.visible = screen_->list.visible = true;
+    window_->Refresh();
+    QTRY_COMPARE(window_->centralWidget()->sizeHint().height(), height);
+  }
+
   void AProgressBarMirrorsItsFieldAndKeepsItsPlace() {
     QProgressBar* bar = Find<QProgressBar>("progress");
     QVERIFY(!bar->isVisible());
