@@ -1,0 +1,15 @@
+// Waits for a condition, not for a time. Used by all end-to-end tests and by what they are made of.
+#pragma once
+
+#include <chrono>
+#include <functional>
+
+namespace end_to_end {
+
+// Long enough that only a condition that never comes runs into it, on a busy machine too.
+inline constexpr std::chrono::seconds patience(40);
+
+// Asks again and again until `condition` holds or the time is over. Gives whether it held.
+bool WaitFor(const std::function<bool()>& condition, std::chrono::milliseconds limit = patience);
+
+}  // namespace end_to_end

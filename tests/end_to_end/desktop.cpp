@@ -1,0 +1,158 @@
+#include "end_to_end/desktop.h"
+
+#include <cstdlib>
+#include <sstream>
+#include <stdexcept>
+
+#include "end_to_end/deadline.h"
+
+namespace end_to_end {
+namespace {
+
+namespace fs = std::filesystem;
+
+// The first line beginning with one of `beginnings` that the program prints: it tells where the
+// program is to be found. Complaints may come before it.
+std::string Announced(Process& process, const std::string& name, std::string_view beginnings) {
+  std::string found;
+  WaitFor([&] {
+    std::istringstream lines(process.Output());
+    for (std::string line; std::getline(lines, line) && !lines.eof() && found.empty();) {
+      if (!line.empty() && beginnings.find(line[0]) != std::string_view::npos) found = line;
+    }
+    return !found.empty() || !process.Running();
+  });
+  if (found.empty()) throw std::runtime_error(name + " does not start: " + process.Output());
+  return found;
+}
+
+void Set(const char* name, const std::string& value) {
+  setenv(name, value.c_str(), 1);
+}
+
+// Nothing that a person has set up on this machine, or left on it, is to be seen by the programs.
+void UseOwnDirectories(const fs::path& scratch) {
+  for (const char* name : {"HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR", "XDG_CONFIG_HOME"}) {
+    const fs::path directory = scratch / name;
+    fs::create_directories(directory);
+    fs::permissions(directory, fs::perms::owner_all);
+    Set(name, directory.string());
+  }
+}
+
+std::string Geometry(const Widget& widget) {
+  return std::to_string(widget.width) + "x" + std::to_string(widget.height) + "+" +
+         std::to_string(widget.x) + "+" + std::to_string(widget.y);
+}
+
+}  // namespace
+
+Desktop::Desktop(const fs::path& scratch) : scratch_(scratch) {
+  InheritOrphans();
+  UseOwnDirectories(scratch_);
+  StartDisplay();
+  StartBus();
+  StartWindowManager();
+  reader_ = std::make_unique<ScreenReader>(std::getenv("DBUS_SESSION_BUS_ADDRESS"));
+}
+
+Desktop::~Desktop() {
+  reader_.reset();
+  bus_.reset();
+  windowManager_.reset();
+  display_.reset();
+  EndInherited();
+}
+
+void Desktop::StartDisplay() {
+  // Two displays that start at the same time can take the same number, and one of them goes.
+  const bool answers = WaitFor([this] {
+    display_.reset();
+    fs::remove(scratch_ / "display.txt");
+    display_ =
+        std::make_unique<Process>(std::vector<std::string>{"Xvfb", "-displayfd", "1", "-screen",
+                                                           "0", "1280x1024x24", "-nolisten", "tcp"},
+                                  scratch_ / "display.txt");
+    Set("DISPLAY", ":" + Announced(*display_, "Xvfb", "0123456789"));
+    return RunToEnd({"xprop", "-root"}, scratch_ / "root_window.txt") == 0 && display_->Running();
+  });
+  if (!answers) throw std::runtime_error("Xvfb does not start: " + display_->Output());
+  Set("QT_QPA_PLATFORM", "xcb");
+  unsetenv("WAYLAND_DISPLAY");
+}
+
+void Desktop::StartBus() {
+  bus_ = std::make_unique<Process>(
+      std::vector<std::string>{"dbus-daemon", "--session", "--nofork", "--print-address=1",
+                               "--address=unix:tmpdir=" + scratch_.string()},
+      scratch_ / "bus.txt");
+  Set("DBUS_SESSION_BUS_ADDRESS", Announced(*bus_, "dbus-daemon", "u"));
+  Set("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
+}
+
+void Desktop::StartWindowManager() {
+  const fs::path output = scratch_ / "window_manager.txt";
+  windowManager_ = std::make_unique<Process>(std::vector<std::string>{"openbox"}, output);
+  const bool manages = WaitFor([&] {
+    const fs::path answer = scratch_ / "root_window.txt";
+    fs::remove(answer);
+    RunToEnd({"xprop", "-root", "_NET_SUPPORTING_WM_CHECK"}, answer);
+    return ContentOf(answer).find("window id") != std::string::npos || !windowManager_->Running();
+  });
+  if (!manages || !windowManager_->Running())
+    throw std::runtime_error("openbox does not start: " + ContentOf(output));
+}
+
+std::optional<Widget> Desktop::Find(std::string_view role, std::string_view name) const {
+  for (const Widget& widget : Widgets()) {
+    if (widget.role == role && widget.name == name) return widget;
+  }
+  return std::nullopt;
+}
+
+std::optional<Widget> Desktop::FindDescribed(std::string_view role, std::string_view label) const {
+  for (const Widget& widget : Widgets()) {
+    if (widget.role == role && widget.description.starts_with(label)) return widget;
+  }
+  return std::nullopt;
+}
+
+void Desktop::Click(const Widget& widget) const {
+  RunToEnd({"xdotool", "mousemove", std::to_string(widget.x + widget.width / 2),
+            std::to_string(widget.y + widget.height / 2), "click", "1"},
+           scratch_ / "xdotool.txt");
+}
+
+void Desktop::Press(const std::vector<std::string>& keys) const {
+  std::vector<std::string> words = {"xdotool", "key"};
+  words.insert(words.end(), keys.begin(), keys.end());
+  RunToEnd(words, scratch_ / "xdotool.txt");
+}
+
+std::string Desktop::ActiveWindow() const {
+  const fs::path file = scratch_ / "active_window.txt";
+  fs::remove(file);
+  RunToEnd({"xdotool", "getactivewindow", "getwindowname"}, file);
+  const std::string title = ContentOf(file);
+  return title.substr(0, title.find('\n'));
+}
+
+void Desktop::MoveActiveWindow(int x, int y) const {
+  RunToEnd({"xdotool", "getactivewindow", "windowmove", std::to_string(x), std::to_string(y)},
+           scratch_ / "xdotool.txt");
+}
+
+std::string Desktop::PixelsOf(const Widget& widget) const {
+  const fs::path file = scratch_ / "pixels";
+  fs::remove(file);
+  RunToEnd({"import", "-window", "root", "-crop", Geometry(widget), "-depth", "8",
+            "rgb:" + file.string()},
+           scratch_ / "import.txt");
+  return ContentOf(file);
+}
+
+void Desktop::SaveScreenshot(const fs::path& path) const {
+  RunToEnd({"import", "-window", "root", path.string()}, scratch_ / "import.txt");
+}
+
+}  // namespace end_to_end

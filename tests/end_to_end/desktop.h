@@ -1,0 +1,57 @@
+// A display of its own with a window manager, mouse, keyboard and a screen reader. Used by the
+// tests of whole programs; programs started while it stands have their windows on it.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "end_to_end/process.h"
+#include "end_to_end/screen_reader.h"
+
+namespace end_to_end {
+
+class Desktop {
+ public:
+  // What its programs write lies in the directory `scratch`. Throws std::runtime_error when one of
+  // them does not come up.
+  explicit Desktop(const std::filesystem::path& scratch);
+  ~Desktop();
+  Desktop(const Desktop&) = delete;
+  Desktop& operator=(const Desktop&) = delete;
+
+  std::vector<Widget> Widgets() const { return reader_->Widgets(); }
+  // The first widget of that role with that name; none when it is not on the display now.
+  std::optional<Widget> Find(std::string_view role, std::string_view name) const;
+  // The same for a field without a name of its own, by the label in front of it.
+  std::optional<Widget> FindDescribed(std::string_view role, std::string_view label) const;
+
+  // The mouse, at the middle of the widget.
+  void Click(const Widget& widget) const;
+  // The keyboard: names of keys, one after the other.
+  void Press(const std::vector<std::string>& keys) const;
+  // The title of the window in front.
+  std::string ActiveWindow() const;
+  // What dragging the title does to the window in front: its corner goes to that place.
+  void MoveActiveWindow(int x, int y) const;
+
+  // The pixels of a widget as they are now.
+  std::string PixelsOf(const Widget& widget) const;
+  void SaveScreenshot(const std::filesystem::path& path) const;
+
+ private:
+  void StartDisplay();
+  void StartBus();
+  void StartWindowManager();
+
+  std::filesystem::path scratch_;
+  std::unique_ptr<Process> display_;
+  std::unique_ptr<Process> bus_;
+  std::unique_ptr<Process> windowManager_;
+  std::unique_ptr<ScreenReader> reader_;
+};
+
+}  // namespace end_to_end

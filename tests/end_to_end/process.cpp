@@ -1,0 +1,103 @@
+#include "end_to_end/process.h"
+
+#include <fcntl.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <utility>
+
+#include "end_to_end/deadline.h"
+
+namespace end_to_end {
+namespace {
+
+constexpr int notThere = 127;
+
+std::vector<char*> Pointers(std::vector<std::string>& words) {
+  std::vector<char*> pointers;
+  for (std::string& word : words) pointers.push_back(word.data());
+  pointers.push_back(nullptr);
+  return pointers;
+}
+
+}  // namespace
+
+Process::Process(const std::vector<std::string>& words, std::filesystem::path output)
+    : output_(std::move(output)) {
+  std::vector<std::string> copies = words;
+  const std::vector<char*> arguments = Pointers(copies);
+  process_ = fork();
+  if (process_ < 0) throw std::runtime_error("no process for " + words.front());
+  if (process_ == 0) {
+    prctl(PR_SET_PDEATHSIG, SIGKILL);  // a test that crashes leaves nothing behind
+    const int file = open(output_.c_str(), O_WRONLY | O_CREAT | O_APPEND, 0644);
+    dup2(file, STDOUT_FILENO);
+    dup2(file, STDERR_FILENO);
+    execvp(arguments[0], arguments.data());
+    _exit(notThere);
+  }
+}
+
+Process::~Process() {
+  End();
+}
+
+void Process::Look(int options) {
+  int status = 0;
+  if (status_ || waitpid(process_, &status, options) != process_) return;
+  status_ = WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
+}
+
+bool Process::Running() {
+  Look(WNOHANG);
+  return !status_;
+}
+
+std::optional<int> Process::AwaitEnd() {
+  WaitFor([this] { return !Running(); });
+  return status_;
+}
+
+void Process::End() {
+  if (!Running()) return;
+  kill(process_, SIGTERM);
+  if (WaitFor([this] { return !Running(); }, std::chrono::seconds(5))) return;
+  kill(process_, SIGKILL);
+  Look(0);
+}
+
+std::string Process::Output() const {
+  return ContentOf(output_);
+}
+
+int RunToEnd(const std::vector<std::string>& words, const std::filesystem::path& output) {
+  return Process(words, output).AwaitEnd().value_or(notThere);
+}
+
+std::string ContentOf(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void InheritOrphans() {
+  prctl(PR_SET_CHILD_SUBREAPER, 1UL);
+}
+
+void EndInherited() {
+  // An ended process may leave further ones, until there are none.
+  WaitFor([] {
+    std::ifstream children("/proc/self/task/" + std::to_string(getpid()) + "/children");
+    for (pid_t child = 0; children >> child;) kill(child, SIGKILL);
+    while (waitpid(-1, nullptr, WNOHANG) > 0) {
+    }
+    return waitpid(-1, nullptr, WNOHANG) < 0 && errno == ECHILD;
+  });
+}
+
+}  // namespace end_to_end
