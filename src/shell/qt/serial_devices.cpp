@@ -10,6 +10,9 @@ namespace bkconf {
 namespace {
 
 #ifndef Q_OS_WIN
+/// Short enough for an adapter that was plugged before the menu is opened again.
+constexpr int LookLastsMs = 500;
+
 /// The device that the settings directory links to, also when it is not there at the moment.
 QString LinkedDevice(int number) {
   const QFileInfo link(ToQt(SettingsPath("com" + std::to_string(number))));
@@ -51,8 +54,11 @@ QString SerialDevices::Name(int number) const {
 QString SerialDevices::Location(int number) const {
   if (number < 1 || number > Count) return {};
   if (const QString linked = LinkedDevice(number); !linked.isEmpty()) return linked;
-  const QList<QSerialPortInfo> ports = NumberedPorts(QSerialPortInfo::availablePorts());
-  return number <= ports.size() ? ports[number - 1].systemLocation() : QString();
+  if (!sinceLook_.isValid() || sinceLook_.hasExpired(LookLastsMs)) {
+    ports_ = NumberedPorts(QSerialPortInfo::availablePorts());
+    sinceLook_.start();
+  }
+  return number <= ports_.size() ? ports_[number - 1].systemLocation() : QString();
 }
 
 QString SerialDevices::Name(int number) const {

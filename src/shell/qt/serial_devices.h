@@ -1,6 +1,7 @@
 // Which device a port number means on this machine. The serial port and the port menu ask.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QSerialPortInfo>
 #include <QString>
 
@@ -14,8 +15,13 @@ class SerialDevices {
 
   /// What to open for a number from 1 to 8; empty if there is nothing.
   QString Location(int number) const;
-  /// The short name of the device for a user; empty if there is none.
+  /// The short name of the device for a user; empty if there is none. Names that are asked for one
+  /// after the other come from one look at the machine, which takes 10 ms.
   QString Name(int number) const;
+
+ private:
+  mutable QList<QSerialPortInfo> ports_;
+  mutable QElapsedTimer sinceLook_;
 };
 
 /// In the order in which they are numbered: adapters and boards that tell what they are, then other

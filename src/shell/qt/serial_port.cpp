@@ -4,7 +4,6 @@
 #include <cstdio>
 
 #include "platform/runtime_error.h"
-#include "shell/qt/serial_devices.h"
 
 #ifdef Q_OS_UNIX
 #include <grp.h>
@@ -66,12 +65,12 @@ QtSerialPort::QtSerialPort() {
 }
 
 std::string QtSerialPort::DeviceOf(int number) const {
-  return SerialDevices().Name(number).toStdString();
+  return devices_.Name(number).toStdString();
 }
 
 bool QtSerialPort::Open() {
   Close();
-  const QString location = SerialDevices().Location(number_);
+  const QString location = devices_.Location(number_);
   device_ = location.toStdString();
   if (location.isEmpty()) {
     TellRefusal("port " + std::to_string(number_), "no such port");

@@ -4,6 +4,7 @@
 #include <QSerialPort>
 
 #include "platform/machine.h"
+#include "shell/qt/serial_devices.h"
 
 namespace bkconf {
 
@@ -36,6 +37,7 @@ class QtSerialPort : public SerialPort {
   [[noreturn]] void ThrowFailed();
 
   QSerialPort serial_;
+  SerialDevices devices_;
   int number_ = 0;
   bool failed_ = false;
   std::string device_;  ///< of the last opening
