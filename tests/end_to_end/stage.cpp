@@ -100,10 +100,11 @@ Widget Stage::Await(std::string_view role, std::string_view name, bool enabled) 
     found = desktop().Find(role, name);
     return (found && (found->enabled || !enabled)) || !tool().Running();
   });
-  EXPECT_TRUE(found) << "no " << role << " \"" << name << "\"";
-  EXPECT_TRUE(!found || found->enabled || !enabled) << role << " \"" << name << "\" is disabled";
-  EXPECT_TRUE(tool().Running()) << "the tool has ended";
-  return found.value_or(Widget());
+  const std::string widget = std::string(role) + " \"" + std::string(name) + "\"";
+  if (!tool().Running()) throw std::runtime_error("the tool has ended; awaited was " + widget);
+  if (!found) throw std::runtime_error("there is no " + widget);
+  if (enabled && !found->enabled) throw std::runtime_error(widget + " is disabled");
+  return *found;
 }
 
 bool Stage::IsEnabled(std::string_view role, std::string_view name) {

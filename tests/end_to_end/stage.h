@@ -44,8 +44,8 @@ class Stage : public ::testing::Test {
   Desktop& desktop() { return *desktop_; }
   Process& tool() { return *tool_; }
 
-  // Waits until the widget is there and, if so wanted, enabled. Fails the test when it never is,
-  // and gives an empty widget.
+  // Waits until the widget is there and, if so wanted, enabled. Throws std::runtime_error, which
+  // ends the test, when it never is or the tool has ended.
   Widget Await(std::string_view role, std::string_view name, bool enabled = true);
   void ClickOn(std::string_view role, std::string_view name) { desktop().Click(Await(role, name)); }
   // Waits for a text in a label of the window.
