@@ -28,14 +28,22 @@ void MarkPort() {
   }
 }
 
-/// The device behind each number, which changes when an adapter is plugged or pulled.
+void ShowPortNumbers() {
+  for (int number = 1; MenuField * entry : PortEntries()) {
+    Show(entry->caption, TextId::PortEntry);
+    entry->caption += std::to_string(number);
+    ++number;
+  }
+}
+
+/// The device behind each number, which changes when an adapter is plugged or pulled. A look at the
+/// machine's ports takes its time, so it waits until somebody opens the menu.
 void ShowDevices() {
-  const auto entries = PortEntries();
-  for (std::size_t i = 0; i < entries.size(); ++i) {
-    const int number = static_cast<int>(i) + 1;
+  ShowPortNumbers();
+  for (int number = 1; MenuField * entry : PortEntries()) {
     const std::string device = Port->DeviceOf(number);
-    Show(entries[i]->caption, TextId::PortEntry);
-    entries[i]->caption += std::to_string(number) + (device.empty() ? "" : "  -  " + device);
+    if (!device.empty()) entry->caption += "  -  " + device;
+    ++number;
   }
 }
 
@@ -66,7 +74,7 @@ void ShowMenuCaptions() {
     row.menu->caption = TextOf(row.caption).dutch;
     Show(row.menu->caption, row.caption);
   }
-  ShowDevices();
+  ShowPortNumbers();
 }
 
 /// Starts the upgrade program and ends this one. False when it cannot be started.

@@ -211,8 +211,9 @@ TEST_F(MainWindowStartTest, TheMenusAreBuiltOfTheirEntriesInTheirOrder) {
   }
 }
 
-TEST_F(MainWindowStartTest, EachPortNumberShowsItsDevice) {
+TEST_F(MainWindowStartTest, EachPortNumberShowsItsDeviceWhenItsMenuIsOpened) {
   Start();
+  MainWindow.poort.onOpen();
   int number = 1;
   for (const MenuField* entry : MainWindow.poort.entries) {
     EXPECT_NE(entry->caption.find(std::to_string(number)), std::string::npos) << entry->caption;

@@ -167,10 +167,12 @@ TEST_F(MenusTest, APortThatCannotBeStoredIsInUseAllTheSame) {
 
 TEST_F(MenusTest, OpeningThePortMenuShowsTheDevicesOfThisMoment) {
   Start();
-  const std::string shown = MainWindow.p5.caption;
-  MainWindow.p5.caption = "stale";
-  MainWindow.poort.onOpen();
-  EXPECT_EQ(MainWindow.p5.caption, shown);
+  EXPECT_EQ(MainWindow.p5.caption, "Com &5");
+  for (int opening = 0; opening < 2; ++opening) {
+    MainWindow.poort.onOpen();
+    EXPECT_EQ(MainWindow.p5.caption, "Com &5  -  fake5");
+    EXPECT_EQ(MainWindow.p8.caption, "Com &8  -  fake8");
+  }
 }
 
 TEST_F(MenusTest, NoEntryIsUsableDuringATransfer) {

@@ -81,6 +81,8 @@ class MainWindowViewTest : public QObject {
     QCOMPARE(Find<QAction>("p3")->isChecked(), true);
     QCOMPARE(Find<QAction>(Language.Number() == 1 ? "ned" : "frans")->isChecked(), true);
     QVERIFY(!Find<QAction>("openen")->isEnabled());
+    QCOMPARE(Find<QAction>("p1")->text(), QStringLiteral("Com &1"));
+    Q_EMIT Find<QMenu>("poort")->aboutToShow();
     QVERIFY(Find<QAction>("p1")->text().contains(QStringLiteral("tty1")));
   }
 
