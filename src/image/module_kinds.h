@@ -59,6 +59,7 @@ struct Model {
   TextId caption;
   TextId groupCaption;
   std::string_view picture;
+  bool severalManuals = false;  ///< one button for each instead of one for all
 };
 
 /// In the order of the selection list.
@@ -68,7 +69,7 @@ inline constexpr std::array<Model, 12> Models = {{
     {"KR7110", TextId::MasterModule, TextId::MasterFrame, "master.bmp"},
     {"KR7150", TextId::TemperatureModule, TextId::TemperatureFrame, "temp.bmp"},
     {"KR721X", TextId::LcdModule, TextId::LcdFrame, "lcd.bmp"},
-    {"KR73XX/KR8330", TextId::DimModule, TextId::DimFrame, "dimmer.bmp"},
+    {"KR73XX/KR8330", TextId::DimModule, TextId::DimFrame, "dimmer.bmp", true},
     {"KR7160", TextId::AlarmModule, TextId::AlarmFrame, "alarm.bmp"},
     {"KR7920", TextId::AudioInterface, TextId::AudioFrame, "audio.bmp"},
     {"KR7170", TextId::SimulationModule, TextId::SimulationFrame, "simu.bmp"},

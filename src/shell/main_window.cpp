@@ -186,12 +186,12 @@ void ClearModuleFields() {
 /// touched: what kind it takes is settled by the module.
 void ShowModel() {
   const Model* model = FindModel(MainWindow.moduleList.Text());
-  const bool dimmer = model != nullptr && model->caption == TextId::DimModule;
+  const bool several = model != nullptr && model->severalManuals;
   MainWindow.pictureGroup.visible = model != nullptr;
-  MainWindow.moreInfo.visible = model != nullptr && !dimmer;
+  MainWindow.moreInfo.visible = model != nullptr && !several;
   for (ButtonField* info :
        {&MainWindow.infoInductive, &MainWindow.infoCapacitive, &MainWindow.infoAnalogue}) {
-    info->visible = dimmer;
+    info->visible = several;
   }
   if (model == nullptr) {
     MainWindow.moduleCaption.caption.clear();

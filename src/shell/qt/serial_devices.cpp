@@ -53,7 +53,7 @@ QString SerialDevices::Name(int number) const {
 
 QString SerialDevices::Location(int number) const {
   if (number < 1 || number > Count) return {};
-  if (const QString linked = LinkedDevice(number); !linked.isEmpty()) return linked;
+  if (QString linked = LinkedDevice(number); !linked.isEmpty()) return linked;
   if (!sinceLook_.isValid() || sinceLook_.hasExpired(LookLastsMs)) {
     ports_ = NumberedPorts(QSerialPortInfo::availablePorts());
     sinceLook_.start();
