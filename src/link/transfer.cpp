@@ -8,6 +8,18 @@
 #include "session/language.h"
 
 namespace bkconf {
+namespace {
+
+/// Fields and buttons come back. True when a screen waits for what was read, false behind a Send.
+bool GiveFieldsBack() {
+  const bool awaited = !SentByUser();
+  WriteInProgress = 0;
+  Window.enableModuleFields(true);
+  UnlockButtons();
+  return awaited;
+}
+
+}  // namespace
 
 bool StartTransfer() {
   StopLink();
@@ -50,21 +62,15 @@ void UnlockMenus() {
 }
 
 void UnlockWindow(std::optional<LinkEvent> told) {
-  const bool awaited = !SentByUser();
-  WriteInProgress = 0;
-  Window.enableModuleFields(true);
-  UnlockButtons();
+  const bool awaited = GiveFieldsBack();
   UnlockMenus();
   if (told && awaited) Raise(*told);
 }
 
 void CloseRead(std::optional<LinkEvent> told) {
-  const bool awaited = !SentByUser();
-  WriteInProgress = 0;
   Window.bar->visible = false;
   Show(Window.status->caption, TextId::EditMode);
-  Window.enableModuleFields(true);
-  UnlockButtons();
+  const bool awaited = GiveFieldsBack();
   if (told && awaited) Raise(*told);
 }
 

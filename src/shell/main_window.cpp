@@ -212,10 +212,15 @@ void ShowGroupOf(const ModuleKind& kind) {
   ShowFieldsOf(&kind);
 }
 
+/// The letter that the image holds, as its character.
+void ShowAddress(ListField& list) {
+  list.Show(CharacterOf(CellAt(ActiveKind()->address).Whole()));
+}
+
 void ShowModuleCells() {
   const ModuleKind* kind = ActiveKind();
   DataGroupFields& fields = MainWindow.Group(kind->group);
-  if (HasAddress(kind)) fields.address.Show(CharacterOf(CellAt(kind->address).Whole()));
+  if (HasAddress(kind)) ShowAddress(fields.address);
   for (const CellField& field : CellFields()) {
     if (field.kinds.Contains(kind->code)) field.list->Show(CellAt(field.cell).Text());
   }
@@ -270,10 +275,6 @@ void PickAddress(const ListField& list) {
   }
 }
 
-void ShowAddressAgain(ListField& list) {
-  list.Show(CharacterOf(CellAt(ActiveKind()->address).Whole()));
-}
-
 void PickCell(const CellField& field) {
   CellAt(field.cell) = ReadsAsNumber(field.list->Text()).value_or(0);
   if (field.dirty != nullptr) *field.dirty = 1;
@@ -286,7 +287,7 @@ void FillLists() {
     address.items.clear();
     for (char letter = 'A'; letter <= 'R'; ++letter) address.items.emplace_back(1, letter);
     address.onPick = [&address] { PickAddress(address); };
-    address.onTyped = [&address] { ShowAddressAgain(address); };
+    address.onTyped = [&address] { ShowAddress(address); };
   }
   for (const CellField& field : CellFields()) {
     field.list->items.clear();
