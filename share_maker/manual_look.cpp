@@ -6,6 +6,8 @@
 #include <QTextFrame>
 #include <QTextList>
 #include <QTextTable>
+#include <algorithm>
+#include <iterator>
 
 namespace share_maker {
 namespace {
@@ -15,9 +17,9 @@ constexpr QRgb HeaderShade = 0xffe4eef4;
 constexpr QRgb RowShade = 0xfff6f9fb;
 
 // Sizes of letters are in points, spaces and lines in 1/96 inch.
-constexpr double BodySize = 9.5;
-constexpr double TableSize = 8.5;
-constexpr double LineHeight = 128;  // percent
+constexpr double BodySize = 9;
+constexpr double TableSize = 8.2;
+constexpr double LineHeight = 125;  // percent
 constexpr double BorderWidth = 0.8;
 
 struct HeadingLook {
@@ -29,7 +31,7 @@ struct HeadingLook {
 
 /// The title stands on a band of the accent colour.
 constexpr HeadingLook HeadingLooks[] = {
-    {21, 0, 44, 0xffffffff}, {13, 17, 5, Accent}, {10.5, 11, 3, Accent}};
+    {21, 0, 44, 0xffffffff}, {12.5, 14, 4, Accent}, {10.5, 11, 3, Accent}};
 
 const HeadingLook& LookOf(int level) {
   return HeadingLooks[std::min<int>(level, std::size(HeadingLooks)) - 1];
@@ -46,7 +48,6 @@ void FormatHeading(const QTextBlock& block) {
   QTextBlockFormat format = block.blockFormat();
   format.setTopMargin(look.above);
   format.setBottomMargin(look.below);
-  format.setNonBreakableLines(true);
   QTextCharFormat letters;
   letters.setFont(Letters(look.points));
   letters.setFontWeight(QFont::Bold);
@@ -61,7 +62,7 @@ void FormatText(const QTextBlock& block) {
   const bool inList = block.textList() != nullptr;
   const bool lastOfList = inList && block.next().textList() != block.textList();
   format.setTopMargin(0);
-  format.setBottomMargin(inList && !lastOfList ? 2 : 7);
+  format.setBottomMargin(inList && !lastOfList ? 2 : 6);
   format.setLineHeight(LineHeight, QTextBlockFormat::ProportionalHeight);
   Whole(block).setBlockFormat(format);
 }
@@ -79,7 +80,6 @@ void FormatCell(const QTextTableCell& cell, bool header) {
   QTextBlockFormat lines;
   lines.setTopMargin(0);
   lines.setBottomMargin(0);
-  lines.setNonBreakableLines(true);
   lines.setLineHeight(118, QTextBlockFormat::ProportionalHeight);
   cursor.mergeBlockFormat(lines);
 }
@@ -104,7 +104,7 @@ void FormatTable(QTextTable& table) {
   format.setCellPadding(4);
   format.setCellSpacing(0);
   format.setTopMargin(4);
-  format.setBottomMargin(10);
+  format.setBottomMargin(8);
   format.setHeaderRowCount(1);
   table.setFormat(format);
   for (int row = 0; row < table.rows(); ++row) {
