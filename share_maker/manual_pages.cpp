@@ -23,8 +23,8 @@ constexpr int Dots(double mm) {
 }
 
 constexpr int PageWidth = Dots(210);
-constexpr QRectF Body(Dots(20), Dots(17), Dots(170), Dots(258));
-constexpr QRectF Footer(Dots(20), Dots(280), Dots(170), Dots(7));
+constexpr QRectF Body(Dots(18), Dots(17), Dots(174), Dots(258));
+constexpr QRectF Footer(Dots(18), Dots(280), Dots(174), Dots(7));
 constexpr int BandBelowTitle = Dots(6);
 constexpr int RuleWidth = Dots(0.2);
 
