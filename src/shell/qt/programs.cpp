@@ -1,7 +1,9 @@
 #include "shell/qt/programs.h"
 
 #include <QCoreApplication>
+#include <QDesktopServices>
 #include <QProcess>
+#include <QUrl>
 
 #include "session/settings.h"
 #include "shell/qt/arguments.h"
@@ -37,6 +39,11 @@ bool QtPrograms::Start(const std::string& fileName) {
 bool QtPrograms::StartThisProgram() {
   return StartDetached(QCoreApplication::applicationFilePath(),
                        {ToQt(DirectoryOption), ToQt(SettingsDirectory), ToQt(MinimisedOption)});
+}
+
+void QtPrograms::ShowWebPage(const std::string& address) {
+  // Where there is no browser there is nothing to tell.
+  QDesktopServices::openUrl(QUrl(ToQt(address)));
 }
 
 void QtPrograms::End() {

@@ -10,6 +10,7 @@ class QtPrograms : public Programs {
   bool Start(const std::string& fileName) override;
   /// The copy gets the settings directory of this process.
   bool StartThisProgram() override;
+  void ShowWebPage(const std::string& address) override;
   void End() override;
 };
 

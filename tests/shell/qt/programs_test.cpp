@@ -1,13 +1,25 @@
 #include "shell/qt/programs.h"
 
+#include <QDesktopServices>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QUrl>
 
 #include "session/settings.h"
 
 using namespace bkconf;
+
+/// A browser that notes what it is asked to show.
+class Browser : public QObject {
+  Q_OBJECT
+ public Q_SLOTS:
+  void Show(const QUrl& page) { shown.append(page); }
+
+ public:
+  QList<QUrl> shown;
+};
 
 class ProgramsTest : public QObject {
   Q_OBJECT
@@ -33,6 +45,14 @@ class ProgramsTest : public QObject {
   }
 #endif
 
+  void AWebPageIsShownInTheBrowser() {
+    Browser browser;
+    QDesktopServices::setUrlHandler(QStringLiteral("http"), &browser, "Show");
+    QtPrograms().ShowWebPage("http://example.org/a b");
+    QDesktopServices::unsetUrlHandler(QStringLiteral("http"));
+    QCOMPARE(browser.shown, QList<QUrl>({QUrl(QStringLiteral("http://example.org/a%20b"))}));
+  }
+
   void EndLeavesTheEventLoopWhenTheEventIsOver() {
     bool eventWentOn = false;
     QTimer::singleShot(0, [&] {
@@ -55,5 +75,5 @@ class ProgramsTest : public QObject {
   QTemporaryDir directory_;
 };
 
-QTEST_GUILESS_MAIN(ProgramsTest)
+QTEST_MAIN(ProgramsTest)
 #include "programs_test.moc"
