@@ -3,9 +3,12 @@
 #include "shell/qt/button_view.h"
 #include "shell/qt/group_view.h"
 #include "shell/qt/label_view.h"
+#include "shell/qt/list_box_view.h"
 #include "shell/qt/list_view.h"
+#include "shell/qt/manual_view.h"
 #include "shell/qt/picture_view.h"
 #include "shell/qt/progress_view.h"
+#include "shell/qt/text_view.h"
 
 namespace bkconf {
 
@@ -39,14 +42,20 @@ std::unique_ptr<WidgetView> MakeView(Field& field, QWidget* parent) {
       return std::make_unique<GroupView>(static_cast<GroupField&>(field), parent);
     case FieldKind::Label:
       return std::make_unique<LabelView>(static_cast<LabelField&>(field), parent);
+    case FieldKind::Text:
+      return std::make_unique<TextView>(static_cast<TextField&>(field), parent);
     case FieldKind::List:
       return std::make_unique<ListView>(static_cast<ListField&>(field), parent);
+    case FieldKind::ListBox:
+      return std::make_unique<ListBoxView>(static_cast<ListBoxField&>(field), parent);
     case FieldKind::Button:
       return std::make_unique<ButtonView>(static_cast<ButtonField&>(field), parent);
     case FieldKind::Progress:
       return std::make_unique<ProgressView>(static_cast<ProgressField&>(field), parent);
     case FieldKind::Picture:
       return std::make_unique<PictureView>(static_cast<PictureField&>(field), parent);
+    case FieldKind::Manual:
+      return std::make_unique<ManualView>(static_cast<ManualField&>(field), parent);
     case FieldKind::Menu:
       return nullptr;
   }

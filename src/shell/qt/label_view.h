@@ -1,5 +1,5 @@
-// The view of a label: a line of plain text.
-// Made by MakeView.
+// The view of a label: a line of plain text. One that a double click does something with can also
+// be reached by keyboard. Made by MakeView.
 #pragma once
 
 #include <QLabel>
@@ -16,9 +16,34 @@ class LabelView : public WidgetView {
   void Push() override;
 
  private:
+  void PushDoubleClick();
+
   LabelField& field_;
   QLabel* label_;
   std::string caption_;
+};
+
+/// A label can be told to take no more width than there is: what does not fit is left out in the
+/// middle, and the tool tip tells all of it. Of a path, that leaves the drive and the file in
+/// sight.
+class ShortenedLabel : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+  void Shorten();
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ protected:
+  bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QString Fitting() const;
+  QSize Width(int characters, QSize whole) const;
+
+  bool shortened_ = false;
 };
 
 }  // namespace bkconf

@@ -14,6 +14,7 @@ enum class Look {
   Plain,
   Primary,  ///< a button: what the screen is there for
   Heading,  ///< a label: stands out from the text around it
+  Path,     ///< a label: takes no more width than there is, and leaves out its middle
 };
 
 enum class PartKind {
@@ -22,8 +23,10 @@ enum class PartKind {
   Column,  ///< parts one below the other
   Form,    ///< lines of a label and what it names, aligned with each other
   Line,    ///< a line of a form: a field, and parts to its right
+  Below,   ///< a field, and close above it the label that names it
   Frame,   ///< a group field around one part
   Tiles,   ///< equal parts in some columns; hidden ones leave no hole
+  Cover,   ///< two parts in the same place: one, and another that lies over it now and then
   Rule,    ///< a thin line across
   Space,   ///< empty room that takes what is left over
 };
@@ -62,6 +65,9 @@ inline Part Line(std::string_view label, std::string_view field, std::vector<Par
 inline Part Form(std::vector<Part> lines) {
   return {.kind = PartKind::Form, .parts = std::move(lines)};
 }
+inline Part Below(std::string_view label, std::string_view field) {
+  return {.kind = PartKind::Below, .field = std::string(field), .label = std::string(label)};
+}
 inline Part Frame(std::string_view group, Part content) {
   Part part{.kind = PartKind::Frame, .field = std::string(group)};
   part.parts.push_back(std::move(content));
@@ -69,6 +75,14 @@ inline Part Frame(std::string_view group, Part content) {
 }
 inline Part Tiles(int columns, std::vector<Part> parts) {
   return {.kind = PartKind::Tiles, .parts = std::move(parts), .columns = columns};
+}
+/// While the field is visible, `over` takes the place of the whole content. What `over` names first
+/// is the button that closes it: it gets the focus, and Escape presses it.
+inline Part Cover(std::string_view field, Part content, Part over) {
+  Part part{.kind = PartKind::Cover, .field = std::string(field)};
+  part.parts.push_back(std::move(content));
+  part.parts.push_back(std::move(over));
+  return part;
 }
 /// A part of a row, with its share of the width.
 inline Part Share(int share, Part part) {

@@ -12,6 +12,7 @@ namespace {
 
 constexpr int Spacing = 14;
 constexpr int LineSpacing = 10;
+constexpr int LabelSpacing = 4;
 
 QWidget* MakeRule() {
   auto* rule = new QFrame;
@@ -19,6 +20,11 @@ QWidget* MakeRule() {
   rule->setForegroundRole(QPalette::Midlight);
   rule->setFrameShadow(QFrame::Plain);
   return rule;
+}
+
+/// What a screen reader names by the label beside it.
+bool TakesInput(FieldKind kind) {
+  return kind == FieldKind::Text || kind == FieldKind::List || kind == FieldKind::ListBox;
 }
 
 }  // namespace
@@ -34,8 +40,11 @@ QLayout* LayoutBuilder::Build(const Part& part) {
       return BuildTiles(part);
     case PartKind::Line:
       return BuildLine(part);
+    case PartKind::Below:
+      return BuildBelow(part);
     case PartKind::Item:
     case PartKind::Frame:
+    case PartKind::Cover:
     case PartKind::Rule:
     case PartKind::Space:
       return BuildBox(Column({part}));
@@ -56,6 +65,8 @@ QLayout* LayoutBuilder::BuildBox(const Part& part) {
       box->addWidget(BuildFrame(each), each.share);
     } else if (each.kind == PartKind::Item) {
       box->addWidget(Place(each), each.share);
+    } else if (each.kind == PartKind::Cover) {
+      box->addLayout(BuildCover(each), each.share);
     } else {
       box->addLayout(Build(each), each.share);
     }
@@ -84,11 +95,34 @@ QLayout* LayoutBuilder::BuildLine(const Part& line) {
   return BuildBox(Row(std::move(parts)));
 }
 
+QLayout* LayoutBuilder::BuildBelow(const Part& part) {
+  auto* box = new QVBoxLayout;
+  box->setSpacing(LabelSpacing);
+  box->addWidget(Place(Item(part.label)));
+  box->addWidget(Place(Labelled(part.label, part.field)), 1);
+  return box;
+}
+
 QLayout* LayoutBuilder::BuildTiles(const Part& part) {
   auto* tiles = new TileLayout(part.columns);
   tiles->setSpacing(LineSpacing);
   for (const Part& each : part.parts) tiles->addWidget(Place(each));
   return tiles;
+}
+
+QLayout* LayoutBuilder::BuildCover(const Part& part) {
+  auto* pages = new QStackedLayout;
+  std::size_t firstPlaced = 0;
+  for (const Part& each : part.parts) {
+    firstPlaced = placed_.size();
+    auto* page = new QWidget;
+    QLayout* content = Build(each);
+    content->setContentsMargins(0, 0, 0, 0);
+    page->setLayout(content);
+    pages->addWidget(page);
+  }
+  covers_.push_back({pages, &find_(part.field).Shown(), placed_.at(firstPlaced)});
+  return pages;
 }
 
 QWidget* LayoutBuilder::BuildFrame(const Part& part) {
@@ -112,7 +146,7 @@ void LayoutBuilder::Label(const std::string& label, WidgetView& view) {
   WidgetView& labelView = find_(label);
   view.SetLabel(labelView.Shown());
   auto* widget = dynamic_cast<QLabel*>(labelView.Widget());
-  if (widget != nullptr && view.Shown().kind == FieldKind::List) widget->setBuddy(view.Widget());
+  if (widget != nullptr && TakesInput(view.Shown().kind)) widget->setBuddy(view.Widget());
 }
 
 }  // namespace bkconf

@@ -2,12 +2,20 @@
 #pragma once
 
 #include <QLayout>
+#include <QStackedLayout>
 #include <functional>
 
 #include "shell/qt/field_view.h"
 #include "shell/qt/layout.h"
 
 namespace bkconf {
+
+/// A part that lies over another one while a field is visible.
+struct CoverPages {
+  QStackedLayout* pages;  ///< the part below, and the one that lies over it
+  const Field* field;
+  QWidget* closer;  ///< the button that closes it
+};
 
 class LayoutBuilder {
  public:
@@ -21,17 +29,22 @@ class LayoutBuilder {
   /// The widgets in reading order.
   const std::vector<QWidget*>& Placed() const { return placed_; }
 
+  const std::vector<CoverPages>& Covers() const { return covers_; }
+
  private:
   QLayout* BuildBox(const Part& part);
   QLayout* BuildForm(const Part& part);
   QLayout* BuildLine(const Part& line);
+  QLayout* BuildBelow(const Part& part);
   QLayout* BuildTiles(const Part& part);
+  QLayout* BuildCover(const Part& part);
   QWidget* BuildFrame(const Part& part);
   QWidget* Place(const Part& part);
   void Label(const std::string& label, WidgetView& view);
 
   std::function<WidgetView&(const std::string&)> find_;
   std::vector<QWidget*> placed_;
+  std::vector<CoverPages> covers_;
 };
 
 }  // namespace bkconf

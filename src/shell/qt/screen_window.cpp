@@ -8,12 +8,12 @@
 #include <algorithm>
 
 #include "shell/qt/event_guard.h"
-#include "shell/qt/layout_builder.h"
 #include "shell/qt/style.h"
 
 namespace bkconf {
 namespace {
 
+/// Of a window that stands by itself.
 constexpr QSize PreferredSize{1000, 660};
 /// What the frame of a window may take of the desktop.
 constexpr QSize FrameRoom{10, 40};
@@ -28,19 +28,25 @@ bool IsEntry(const Screen& screen, const Field* field) {
   });
 }
 
+/// Whether the keyboard can go there, once the window is shown.
+bool TakesFocus(const QWidget& widget) {
+  return widget.focusPolicy() != Qt::NoFocus && widget.isEnabled() &&
+         widget.isVisibleTo(widget.window());
+}
+
 }  // namespace
 
 const std::vector<ScreenWindow*>& ScreenWindows() {
   return windows;
 }
 
-ScreenWindow::ScreenWindow(Screen& screen, const Part& layout, std::function<void()> onClose)
-    : screen_(screen), onClose_(std::move(onClose)) {
+ScreenWindow::ScreenWindow(Screen& screen, Part (*look)(), ScreenWindow* opener)
+    : QMainWindow(opener, opener == nullptr ? Qt::Window : Qt::Dialog),
+      screen_(screen),
+      look_(look),
+      opener_(opener) {
   setObjectName(ToQt(screen.name));
-  setCentralWidget(new QWidget(this));
-  MakeViews();
-  MakeMenus();
-  PlaceViews(layout);
+  if (opener != nullptr) setWindowModality(Qt::WindowModal);
   windows.push_back(this);
   Refresh();
 }
@@ -49,10 +55,20 @@ ScreenWindow::~ScreenWindow() {
   std::erase(windows, this);
 }
 
+void ScreenWindow::Build() {
+  built_ = true;
+  setCentralWidget(new QWidget(this));
+  MakeViews();
+  MakeMenus();
+  PlaceViews();
+}
+
+/// What can be reached by keyboard is known once the views show their fields.
 void ScreenWindow::MakeViews() {
   for (Field* field : screen_.fields) {
     if (auto view = MakeView(*field, centralWidget())) views_.push_back(std::move(view));
   }
+  for (const auto& view : views_) view->Refresh();
 }
 
 void ScreenWindow::MakeMenus() {
@@ -62,13 +78,15 @@ void ScreenWindow::MakeMenus() {
   }
 }
 
-void ScreenWindow::PlaceViews(const Part& layout) {
+void ScreenWindow::PlaceViews() {
   LayoutBuilder builder([this](const std::string& field) -> WidgetView& { return ViewOf(field); });
-  QLayout* content = builder.Build(layout);
+  QLayout* content = builder.Build(look_());
   content->setContentsMargins(WindowMargin, WindowMargin, WindowMargin, WindowMargin);
   centralWidget()->setLayout(content);
+  placed_ = builder.Placed();
+  covers_ = builder.Covers();
   QWidget* before = nullptr;
-  for (QWidget* widget : builder.Placed()) {
+  for (QWidget* widget : placed_) {
     if (widget->focusPolicy() == Qt::NoFocus) continue;
     if (before != nullptr) setTabOrder(before, widget);
     before = widget;
@@ -83,13 +101,16 @@ WidgetView& ScreenWindow::ViewOf(const std::string& field) {
   return **view;
 }
 
-void ScreenWindow::SetDefaultButton(const ButtonField& field) {
-  auto* button = static_cast<QPushButton*>(ViewOf(field.name).Widget());
-  button->setDefault(true);
-  defaultButton_ = button;
+void ScreenWindow::Refresh() {
+  if (!screen_.shown && !isVisible()) return;
+  const bool first = !built_;
+  if (first) Build();
+  PushFields();
+  if (first) Settle();
+  ShowOrHide();
 }
 
-void ScreenWindow::Refresh() {
+void ScreenWindow::PushFields() {
   const QPointer<QWidget> focusBefore = focusWidget();
   for (const auto& view : views_) view->Refresh();
   for (const auto& menu : menus_) menu->Refresh();
@@ -97,27 +118,64 @@ void ScreenWindow::Refresh() {
     title_ = screen_.title;
     setWindowTitle(ToQt(title_));
   }
+  PushEnter();
+  PushCovers();
   KeepFocus(focusBefore);
-  ShowOrHide();
 }
 
-/// A transfer disables the button that started it. When it is over, the keyboard is back there
-/// unless the user has gone elsewhere.
-void ScreenWindow::KeepFocus(QWidget* focusBefore) {
-  if (focusBefore != nullptr && !focusBefore->isEnabled()) awaitedFocus_ = focusBefore;
-  if (awaitedFocus_ == nullptr || !awaitedFocus_->isEnabled()) return;
-  if (focusWidget() == nullptr || !focusWidget()->isEnabled()) awaitedFocus_->setFocus();
-  awaitedFocus_.clear();
+/// The button that Enter presses looks like it.
+void ScreenWindow::PushEnter() {
+  if (enter_ == screen_.enter) return;
+  for (const ButtonField* field : {enter_, screen_.enter}) {
+    if (field == nullptr) continue;
+    static_cast<QPushButton*>(ViewOf(field->name).Widget())->setDefault(field == screen_.enter);
+  }
+  enter_ = screen_.enter;
+}
+
+void ScreenWindow::PushCovers() {
+  for (const CoverPages& cover : covers_) {
+    const int page = cover.field->visible ? 1 : 0;
+    if (cover.pages->currentIndex() == page) continue;
+    cover.pages->setCurrentIndex(page);
+    if (page == 1) cover.closer->setFocus();
+  }
+}
+
+/// A transfer disables the button that started it, a manual covers it. When that is over, the
+/// keyboard is back there unless the user has gone elsewhere.
+void ScreenWindow::KeepFocus(const QPointer<QWidget>& before) {
+  const bool lost = before == nullptr || !TakesFocus(*before);
+  if (awaitedFocus_ != nullptr && TakesFocus(*awaitedFocus_)) {
+    if (lost || before == standIn_) awaitedFocus_->setFocus();
+    awaitedFocus_.clear();
+    return;
+  }
+  if (!lost || before == nullptr) return;
+  if (awaitedFocus_ == nullptr || before != standIn_) awaitedFocus_ = before;
+  // From a field that is gone to the next one; what may have come in its place is there by now.
+  if (!before->isVisibleTo(this)) FocusNext(before);
+  standIn_ = focusWidget();
+}
+
+void ScreenWindow::FocusNext(const QWidget* after) {
+  const auto place = std::find(placed_.begin(), placed_.end(), after);
+  std::vector<QWidget*> order(place, placed_.end());
+  order.insert(order.end(), placed_.begin(), place);
+  const auto next = std::find_if(order.begin(), order.end(), [after](const QWidget* each) {
+    return each != after && TakesFocus(*each);
+  });
+  if (next != order.end()) (*next)->setFocus();
 }
 
 void ScreenWindow::ShowOrHide() {
   if (screen_.shown == isVisible()) return;
+  awaitedFocus_.clear();
   if (!screen_.shown) {
     hide();
     return;
   }
-  resize(
-      PreferredSize.boundedTo(screen()->availableSize() - FrameRoom).expandedTo(minimumSizeHint()));
+  FocusNext(nullptr);
   if (minimised_) {
     minimised_ = false;
     showMinimized();
@@ -126,22 +184,60 @@ void ScreenWindow::ShowOrHide() {
   }
 }
 
+/// Gives the window its first size and place. One with an opener is as large as its content asks
+/// for, and stands in the middle of the opener.
+void ScreenWindow::Settle() {
+  const QRect desktop = screen()->availableGeometry();
+  const QSize wanted = opener_ == nullptr ? PreferredSize : sizeHint();
+  resize(wanted.boundedTo(desktop.size() - FrameRoom).expandedTo(minimumSizeHint()));
+  if (opener_ == nullptr) return;
+  QRect place = geometry();
+  place.moveCenter(opener_->geometry().center());
+  place.moveLeft(std::clamp(place.left(), desktop.left(),
+                            std::max(desktop.left(), desktop.right() - place.width())));
+  place.moveTop(std::clamp(place.top(), desktop.top(),
+                           std::max(desktop.top(), desktop.bottom() - place.height())));
+  move(place.topLeft());
+}
+
 void ScreenWindow::closeEvent(QCloseEvent* event) {
   // Whether the window goes is the logic's choice.
   event->ignore();
-  RunEvent(onClose_);
+  RunEvent([this] { screen_.Close(); });
 }
 
 void ScreenWindow::keyPressEvent(QKeyEvent* event) {
-  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (!enter) {
-    QMainWindow::keyPressEvent(event);
-    return;
+  switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      PressEnter();
+      return;
+    case Qt::Key_Escape:
+      PressEscape();
+      return;
+    default:
+      QMainWindow::keyPressEvent(event);
   }
-  // A button that has the focus is what Enter means; it gets Enter itself only inside a dialog.
+}
+
+/// A button that has the focus is what Enter means; it gets Enter itself only inside a dialog.
+void ScreenWindow::PressEnter() {
   auto* button = dynamic_cast<QPushButton*>(focusWidget());
-  if (button == nullptr) button = static_cast<QPushButton*>(defaultButton_.data());
+  if (button == nullptr && enter_ != nullptr) {
+    button = static_cast<QPushButton*>(ViewOf(enter_->name).Widget());
+  }
   if (button != nullptr && button->isVisible()) button->click();
+}
+
+/// Closes what lies over the window, or else the window itself if it was opened from another one.
+void ScreenWindow::PressEscape() {
+  const auto cover = std::find_if(covers_.begin(), covers_.end(),
+                                  [](const CoverPages& each) { return each.field->visible; });
+  if (cover != covers_.end()) {
+    static_cast<QPushButton*>(cover->closer)->click();
+  } else if (opener_ != nullptr) {
+    close();
+  }
 }
 
 }  // namespace bkconf

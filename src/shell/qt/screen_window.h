@@ -1,10 +1,9 @@
-// The window of a screen: all its fields in the layout that is given. The program makes one for
-// each screen; the event guard refreshes them all.
+// The window of a screen: all its fields in the layout that is given. The table of screens makes
+// one for each; the event guard refreshes them all.
 #pragma once
 
 #include <QMainWindow>
 #include <QPointer>
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -12,21 +11,22 @@
 #include "platform/field.h"
 #include "shell/qt/field_view.h"
 #include "shell/qt/layout.h"
+#include "shell/qt/layout_builder.h"
 #include "shell/qt/menu_view.h"
 
 namespace bkconf {
 
-/// Appears and disappears with `Screen::shown`.
+/// Appears and disappears with `Screen::shown`; what is in it is made when it appears first. Where
+/// the user puts it, and how large, holds until the program ends.
 class ScreenWindow : public QMainWindow {
  public:
-  /// `onClose` is what the close button of the frame does.
-  ScreenWindow(Screen& screen, const Part& layout, std::function<void()> onClose);
+  /// `opener` is the window that waits until this one is closed, and owns it; null for one that
+  /// stands by itself. Escape closes a window that has an opener.
+  ScreenWindow(Screen& screen, Part (*look)(), ScreenWindow* opener = nullptr);
   ~ScreenWindow() override;
 
   /// The window appears minimised the first time.
   void StartMinimised() { minimised_ = true; }
-  /// The button that Enter presses while no other has the focus.
-  void SetDefaultButton(const ButtonField& field);
 
   /// Pushes what changed in the screen to the widgets.
   void Refresh();
@@ -36,21 +36,37 @@ class ScreenWindow : public QMainWindow {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void Build();
   void MakeViews();
   void MakeMenus();
-  void PlaceViews(const Part& layout);
+  void PlaceViews();
   WidgetView& ViewOf(const std::string& field);
-  void KeepFocus(QWidget* focusBefore);
+
+  void PushFields();
+  void PushEnter();
+  void PushCovers();
+  void KeepFocus(const QPointer<QWidget>& before);
+  /// To the next field in reading order that takes it; to the first after null.
+  void FocusNext(const QWidget* after);
+
   void ShowOrHide();
+  void Settle();
+  void PressEnter();
+  void PressEscape();
 
   Screen& screen_;
-  std::function<void()> onClose_;
+  Part (*look_)();
+  ScreenWindow* opener_;
+  bool built_ = false;
   std::vector<std::unique_ptr<WidgetView>> views_;
   std::vector<std::unique_ptr<MenuView>> menus_;
+  std::vector<QWidget*> placed_;  ///< in reading order
+  std::vector<CoverPages> covers_;
   std::string title_;
   bool minimised_ = false;
-  QPointer<QWidget> defaultButton_;
-  QPointer<QWidget> awaitedFocus_;  ///< had the focus when it was disabled
+  const ButtonField* enter_ = nullptr;
+  QPointer<QWidget> awaitedFocus_;  ///< had the focus when it was disabled or hidden
+  QPointer<QWidget> standIn_;       ///< got the focus then
 };
 
 /// All windows there are, in the order in which they were made.

@@ -1,10 +1,13 @@
 #include "shell/qt/style.h"
 
 #include <QComboBox>
+#include <QLineEdit>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QPushButton>
 #include <QStyleOptionGroupBox>
+
+#include "shell/qt/label_view.h"
 
 namespace bkconf {
 namespace {
@@ -112,9 +115,11 @@ void ApplyStyle(QApplication& application) {
 }
 
 void ApplyLook(Look look, QWidget& widget) {
-  // All that can be pressed is tall enough to be hit without aiming.
+  // All that can be pressed is tall enough to be hit without aiming, and a line of text beside it
+  // is as tall.
   const bool pressed = dynamic_cast<QPushButton*>(&widget) != nullptr ||
-                       dynamic_cast<QComboBox*>(&widget) != nullptr;
+                       dynamic_cast<QComboBox*>(&widget) != nullptr ||
+                       dynamic_cast<QLineEdit*>(&widget) != nullptr;
   if (pressed) widget.setMinimumHeight(9 * widget.fontMetrics().height() / 4);
   switch (look) {
     case Look::Plain:
@@ -124,6 +129,9 @@ void ApplyLook(Look look, QWidget& widget) {
       return;
     case Look::Heading:
       widget.setFont(CardStyle::Bold(widget.font()));
+      return;
+    case Look::Path:
+      if (auto* label = dynamic_cast<ShortenedLabel*>(&widget)) label->Shorten();
       return;
   }
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/machine.h"
+#include "platform/runtime_error.h"
 #include "shell/qt/message_boxes.h"
 #include "shell/qt/timer_driver.h"
 
@@ -34,6 +35,11 @@ class NotedFiles : public Files {
     const auto file = contents.find(path);
     return file == contents.end() ? std::nullopt : std::optional(file->second);
   }
+  std::string Load(const std::string& path) const override {
+    const auto content = Read(path);
+    if (!content) throw RuntimeError(ErrorKind::FileNotRead, path);
+    return *content;
+  }
   void Write(const std::string& path, std::string_view content) override {
     contents[path] = content;
   }
@@ -41,10 +47,33 @@ class NotedFiles : public Files {
   std::map<std::string, std::string> contents;
 };
 
+/// Two drives with a few directories in the first.
+class NotedDirectories : public Directories {
+ public:
+  std::vector<std::string> Drives() const override { return {"/", "/media/stick"}; }
+  std::vector<std::string> FoldersIn(const std::string& path) const override {
+    const auto found = folders.find(path);
+    if (found == folders.end()) throw RuntimeError(ErrorKind::DirectoryNotRead, path);
+    return found->second;
+  }
+  std::vector<std::string> FilesIn(const std::string& path, std::string_view) const override {
+    const auto found = files.find(path);
+    return found == files.end() ? std::vector<std::string>() : found->second;
+  }
+  bool Make(const std::string& path) override { return folders.try_emplace(path).second; }
+
+  std::map<std::string, std::vector<std::string>> folders = {{"/", {"home", "media"}},
+                                                             {"/home", {"jan", "mieke"}},
+                                                             {"/home/jan", {}},
+                                                             {"/media/stick", {}}};
+  std::map<std::string, std::vector<std::string>> files;
+};
+
 class NotedPrograms : public Programs {
  public:
   bool Start(const std::string&) override { return false; }
   bool StartThisProgram() override { return true; }
+  void ShowWebPage(const std::string&) override {}
   void End() override { ++ends; }
 
   int ends = 0;
@@ -55,6 +84,7 @@ struct StandIns {
   StandIns() {
     Port = &port;
     FileSystem = &files;
+    DirectorySystem = &directories;
     OtherPrograms = &programs;
     Messages = &boxes;
     ActiveTickDriver = &driver;
@@ -62,6 +92,7 @@ struct StandIns {
 
   NotedPort port;
   NotedFiles files;
+  NotedDirectories directories;
   NotedPrograms programs;
   QtMessageBoxes boxes;
   TimerDriver driver;

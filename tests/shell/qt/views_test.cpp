@@ -61,7 +61,7 @@ class ViewsTest : public QObject {
  private Q_SLOTS:
   void init() {
     screen_ = std::make_unique<SampleScreen>();
-    window_ = std::make_unique<ScreenWindow>(*screen_, SampleLayout(), [] {});
+    window_ = std::make_unique<ScreenWindow>(*screen_, SampleLayout);
     screen_->shown = true;
     window_->Refresh();
     QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
@@ -79,9 +79,10 @@ class ViewsTest : public QObject {
 
   void ClosingTheFrameAsksTheLogicOnly() {
     int closed = 0;
-    ScreenWindow other(*screen_, SampleLayout(), [&] { ++closed; });
-    QVERIFY(!other.close());
+    screen_->onClose = [&] { ++closed; };
+    QVERIFY(!window_->close());
     QCOMPARE(closed, 1);
+    QVERIFY(window_->isVisible());
   }
 
   void ALabelShowsItsCaptionAsPlainText() {
@@ -183,13 +184,36 @@ class ViewsTest : public QObject {
     QStringList pressed;
     screen_->button.onClick = [&] { pressed.append(QStringLiteral("button")); };
     screen_->second.onClick = [&] { pressed.append(QStringLiteral("second")); };
-    window_->SetDefaultButton(screen_->button);
+    screen_->enter = &screen_->button;
     window_->Refresh();
+    QVERIFY(Find<QPushButton>("button")->isDefault());
     Find<QComboBox>("list")->setFocus();
     QTest::keyClick(Find<QComboBox>("list"), Qt::Key_Return);
     Find<QPushButton>("second")->setFocus();
     QTest::keyClick(Find<QPushButton>("second"), Qt::Key_Enter);
     QCOMPARE(pressed, QStringList({QStringLiteral("button"), QStringLiteral("second")}));
+  }
+
+  void AScreenCanChangeWhatEnterPresses() {
+    QStringList pressed;
+    screen_->button.onClick = [&] { pressed.append(QStringLiteral("button")); };
+    screen_->second.onClick = [&] { pressed.append(QStringLiteral("second")); };
+    screen_->enter = &screen_->button;
+    window_->Refresh();
+    screen_->enter = &screen_->second;
+    window_->Refresh();
+    QVERIFY(!Find<QPushButton>("button")->isDefault());
+    Find<QComboBox>("list")->setFocus();
+    QTest::keyClick(Find<QComboBox>("list"), Qt::Key_Return);
+    screen_->enter = nullptr;
+    window_->Refresh();
+    QTest::keyClick(Find<QComboBox>("list"), Qt::Key_Return);
+    QCOMPARE(pressed, QStringList(QStringLiteral("second")));
+  }
+
+  void EscapeLeavesAWindowThatStandsByItself() {
+    QTest::keyClick(window_.get(), Qt::Key_Escape);
+    QVERIFY(screen_->shown);
   }
 
   void TheFocusReturnsToAFieldThatWasDisabledForAWhile() {
@@ -203,6 +227,46 @@ class ViewsTest : public QObject {
     screen_->button.enabled = screen_->list.enabled = true;
     window_->Refresh();
     QCOMPARE(window_->focusWidget(), button);
+  }
+
+  void TheFocusReturnsFromWhereItWentMeanwhileByItself() {
+    screen_->button.onClick = screen_->second.onClick = [] {};
+    window_->Refresh();
+    QPushButton* button = Find<QPushButton>("button");
+    button->setFocus();
+    screen_->button.enabled = false;
+    window_->Refresh();
+    QCOMPARE(window_->focusWidget(), Find<QPushButton>("second"));
+    screen_->button.enabled = true;
+    window_->Refresh();
+    QCOMPARE(window_->focusWidget(), button);
+  }
+
+  void TheFocusStaysWhereTheUserPutItMeanwhile() {
+    screen_->button.onClick = screen_->second.onClick = [] {};
+    window_->Refresh();
+    Find<QPushButton>("button")->setFocus();
+    screen_->button.enabled = false;
+    window_->Refresh();
+    Find<QComboBox>("list")->setFocus();
+    screen_->button.enabled = true;
+    window_->Refresh();
+    QCOMPARE(window_->focusWidget(), Find<QComboBox>("list"));
+  }
+
+  void TheFocusOfAFieldThatHidesGoesToWhatComesInItsPlace() {
+    screen_->button.onClick = screen_->second.onClick = screen_->third.onClick = [] {};
+    screen_->second.visible = false;
+    window_->Refresh();
+    Find<QPushButton>("button")->setFocus();
+    screen_->button.visible = false;
+    screen_->second.visible = true;
+    window_->Refresh();
+    QCOMPARE(window_->focusWidget(), Find<QPushButton>("second"));
+    screen_->button.visible = true;
+    screen_->second.visible = false;
+    window_->Refresh();
+    QCOMPARE(window_->focusWidget(), Find<QPushButton>("button"));
   }
 
   void HiddenTilesLeaveNoHole() {

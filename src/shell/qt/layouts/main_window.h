@@ -1,5 +1,5 @@
 // The look of the main window: selection and picture on the left, the module on the right, the
-// state of a transfer at the bottom. The program builds its window from it.
+// state of a transfer at the bottom; a manual lies over all of it. The table of screens names it.
 #pragma once
 
 #include "shell/action_buttons.h"
@@ -42,8 +42,11 @@ inline Part MainWindowLayout() {
                      {Line("roomCountLabel", "roomCount"), Line("toleranceLabel", "tolerance")}),
        DataGroupPart(DataGroup::Alarm, "alarm", {Line("detectorCountLabel", "detectorCount")}),
        DataGroupPart(DataGroup::Special, "special")});
-  return Column({Row({Share(1, selection), Share(2, module)}), Rule(),
-                 Row({Share(2, Item("status")), Share(1, Labelled("status", "transferBar"))})});
+  const Part window =
+      Column({Row({Share(1, selection), Share(2, module)}), Rule(),
+              Row({Share(2, Item("status")), Share(1, Labelled("status", "transferBar"))})});
+  const Part manual = Column({Row({Space(), Item("closeManual")}), Item("manual")});
+  return Cover("manual", window, manual);
 }
 
 }  // namespace bkconf

@@ -1,0 +1,20 @@
+// The look of the screen that saves a file: where on the left, the files there and the new name on
+// the right. The table of screens names it.
+#pragma once
+
+#include "shell/qt/layout.h"
+
+namespace bkconf {
+
+inline Part SaveDialogLayout() {
+  const Part where = Column(
+      {Below("driveLabel", "drives"), Below("directoryLabel", "directories"),
+       Row({Share(1, Item("newFolder")), Share(1, Item("folderName")), Item("makeFolder")})});
+  const Part what =
+      Column({Below("filesLabel", "files"),
+              Row({Item("fileNameLabel"), Share(1, Labelled("fileNameLabel", "fileName"))})});
+  return Column({Row({Share(2, where), Share(3, what)}), Item("path", Look::Path), Rule(),
+                 Row({Space(), Item("save", Look::Primary)})});
+}
+
+}  // namespace bkconf

@@ -1,0 +1,94 @@
+#include "shell/qt/list_box_view.h"
+
+#include <QKeyEvent>
+
+#include "shell/qt/event_guard.h"
+
+namespace bkconf {
+
+class ListBoxView::Box : public QListWidget {
+ public:
+  Box(const ListBoxField& field, QWidget* parent) : QListWidget(parent), field_(field) {
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setUniformItemSizes(true);
+  }
+
+  int SelectedRow() const {
+    const auto selected = selectedItems();
+    return selected.isEmpty() ? -1 : row(selected.front());
+  }
+  /// The row that was selected when the mouse was pressed the last time.
+  int RowBeforePress() const { return rowBeforePress_; }
+
+  QSize sizeHint() const override { return Room(32, 12); }
+  QSize minimumSizeHint() const override { return Room(14, 4); }
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override {
+    rowBeforePress_ = SelectedRow();
+    QListWidget::mousePressEvent(event);
+  }
+
+  void keyPressEvent(QKeyEvent* event) override {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool arrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+    if (enter && SelectedRow() >= 0 && field_.onOpen) {
+      Q_EMIT itemDoubleClicked(item(SelectedRow()));
+    } else if (enter) {
+      event->ignore();  // the button that Enter presses
+    } else if (arrow && SelectedRow() < 0 && currentItem() != nullptr) {
+      // The cursor stands on an item as soon as the list has the focus: that one comes first.
+      currentItem()->setSelected(true);
+    } else {
+      QListWidget::keyPressEvent(event);
+    }
+  }
+
+ private:
+  QSize Room(int characters, int lines) const {
+    return {characters * fontMetrics().averageCharWidth() + 2 * frameWidth(),
+            lines * fontMetrics().lineSpacing() + 2 * frameWidth()};
+  }
+
+  const ListBoxField& field_;
+  int rowBeforePress_ = -1;
+};
+
+ListBoxView::ListBoxView(ListBoxField& field, QWidget* parent)
+    : WidgetView(field, new Box(field, parent)), field_(field), box_(static_cast<Box*>(Widget())) {
+  QObject::connect(box_, &QListWidget::itemSelectionChanged, box_, [this] { PickSelected(); });
+  QObject::connect(box_, &QListWidget::itemClicked, box_, [this](const QListWidgetItem* item) {
+    // A click on the item that is picked already picks it again; other clicks were told above.
+    if (box_->row(item) == box_->RowBeforePress()) PickSelected();
+  });
+  QObject::connect(box_, &QListWidget::itemDoubleClicked, box_,
+                   [this](const QListWidgetItem* item) {
+                     RunEvent([this, index = box_->row(item)] { field_.Open(index); });
+                   });
+}
+
+/// Nothing selected, after a click beside the items, is no pick: the refresh brings the item back.
+void ListBoxView::PickSelected() {
+  RunEvent([this] { field_.Pick(box_->SelectedRow()); });
+}
+
+void ListBoxView::Push() {
+  if (items_ != field_.Items()) PushItems();
+  if (box_->SelectedRow() == field_.Index()) return;
+  if (field_.Index() < 0) {
+    box_->clearSelection();
+  } else {
+    box_->setCurrentRow(field_.Index());
+  }
+}
+
+void ListBoxView::PushItems() {
+  items_ = field_.Items();
+  QStringList items;
+  for (const std::string& item : items_) items.append(ToQt(item));
+  box_->clear();
+  box_->addItems(items);
+}
+
+}  // namespace bkconf

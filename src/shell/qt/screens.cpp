@@ -1,0 +1,44 @@
+#include "shell/qt/screens.h"
+
+#include <array>
+#include <map>
+
+#include "shell/directory_picker.h"
+#include "shell/directory_screen.h"
+#include "shell/main_window.h"
+#include "shell/open_dialog.h"
+#include "shell/qt/layouts/directory_picker.h"
+#include "shell/qt/layouts/directory_screen.h"
+#include "shell/qt/layouts/main_window.h"
+#include "shell/qt/layouts/open_dialog.h"
+#include "shell/qt/layouts/save_dialog.h"
+#include "shell/save_dialog.h"
+
+namespace bkconf {
+namespace {
+
+constexpr auto Rows = std::to_array<ScreenRow>({
+    {&MainWindow, MainWindowLayout, nullptr},
+    {&OpenDialog, OpenDialogLayout, &MainWindow},
+    {&SaveDialog, SaveDialogLayout, &MainWindow},
+    {&DirectoryScreen, DirectoryScreenLayout, &MainWindow},
+    {&DirectoryPicker, DirectoryPickerLayout, &DirectoryScreen},
+});
+
+}  // namespace
+
+std::span<const ScreenRow> AllScreens() {
+  return Rows;
+}
+
+std::unique_ptr<ScreenWindow> MakeWindows() {
+  auto main = std::make_unique<ScreenWindow>(*Rows.front().screen, Rows.front().layout);
+  std::map<const Screen*, ScreenWindow*> windows = {{Rows.front().screen, main.get()}};
+  for (const ScreenRow& row : AllScreens().subspan(1)) {
+    // Deleted by its opener.
+    windows[row.screen] = new ScreenWindow(*row.screen, row.layout, windows.at(row.opener));
+  }
+  return main;
+}
+
+}  // namespace bkconf
