@@ -3,6 +3,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <algorithm>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,12 @@ TextId TextIdOf(ErrorKind kind) {
       return TextId::PortFailedError;
     case ErrorKind::NoTableToWrite:
       return TextId::NoTableToWriteError;
+    case ErrorKind::FileNotRead:
+      return TextId::FileNotReadError;
+    case ErrorKind::FileTooShort:
+      return TextId::FileTooShortError;
+    case ErrorKind::DirectoryNotRead:
+      return TextId::DirectoryNotReadError;
     case ErrorKind::FileNotWritten:
       return TextId::FileNotWrittenError;
     case ErrorKind::ProgramNotStarted:
@@ -39,21 +46,25 @@ std::string ErrorText(TextId id, std::string_view between) {
   return std::string(TextOf(id).dutch) + std::string(between) + std::string(TextOf(id).french);
 }
 
-void Attempt(const std::function<void()>& event) {
+/// What went wrong, if anything did.
+std::optional<RuntimeError> Attempt(const std::function<void()>& event) {
   try {
     event();
   } catch (const RuntimeError& error) {
     LeaveFailedTransfer();
-    TellError(error);
+    return error;
   }
+  return std::nullopt;
 }
 
 }  // namespace
 
 void RunEvent(const std::function<void()>& event) {
-  Attempt(event);
+  const std::optional<RuntimeError> error = Attempt(event);
   // A copy: an event may make a window or end one.
   for (ScreenWindow* window : std::vector<ScreenWindow*>(ScreenWindows())) window->Refresh();
+  // Last, so that its box lies over a window that the event has opened.
+  if (error) TellError(*error);
 }
 
 void TellError(const RuntimeError& error) {

@@ -1,6 +1,6 @@
 #include "shell/qt/message_boxes.h"
 
-#include <QApplication>
+#include <algorithm>
 
 #include "shell/main_window.h"
 #include "shell/qt/screen_window.h"
@@ -8,11 +8,13 @@
 namespace bkconf {
 namespace {
 
-/// The window that the user looks at, or none before the first one stands.
+/// The window that the user can work in, or none before the first one stands. Windows lie over
+/// those that were made before them.
 QWidget* WindowInFront() {
-  if (QWidget* active = QApplication::activeWindow()) return active;
   const auto& windows = ScreenWindows();
-  return windows.empty() || !windows.front()->isVisible() ? nullptr : windows.front();
+  const auto front = std::find_if(windows.rbegin(), windows.rend(),
+                                  [](const ScreenWindow* window) { return window->isVisible(); });
+  return front == windows.rend() ? nullptr : *front;
 }
 
 }  // namespace
