@@ -7,20 +7,17 @@
 #include <algorithm>
 #include <cstdio>
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include "image/commands.h"
 #include "link/read_table.h"
 #include "link/transfer.h"
-#include "platform/disk_files.h"
 #include "session/settings.h"
 #include "shell/main_window.h"
-#include "shell/qt/layouts/main_window.h"
-#include "shell/qt/message_boxes.h"
-#include "shell/qt/programs.h"
-#include "shell/qt/screen_window.h"
+#include "shell/qt/desktop_machine.h"
+#include "shell/qt/screens.h"
 #include "shell/qt/serial_port.h"
-#include "shell/qt/timer_driver.h"
 
 namespace bkconf {
 namespace {
@@ -171,17 +168,9 @@ void Read(const Job& job, const std::function<void(std::string_view)>& done) {
 
 int Run(const QString& virtualModule) {
   TimedPort port;
-  QtMessageBoxes boxes;
-  DiskFiles files;
-  QtPrograms programs;
-  TimerDriver driver;
-  Port = &port;
-  Messages = &boxes;
-  FileSystem = &files;
-  OtherPrograms = &programs;
-  ActiveTickDriver = &driver;
+  const DesktopMachine machine(port);
   StartSession(LoadMainWindow, [](const std::string&) {});
-  ScreenWindow window(MainWindow, MainWindowLayout(), [] {});
+  const std::unique_ptr<ScreenWindow> window = MakeWindows();
   WatchIdentities();
 
   std::puts(

@@ -5,18 +5,14 @@
 #include <cstdio>
 #include <memory>
 
-#include "platform/disk_files.h"
 #include "session/settings.h"
 #include "shell/main_window.h"
 #include "shell/qt/arguments.h"
+#include "shell/qt/desktop_machine.h"
 #include "shell/qt/event_guard.h"
-#include "shell/qt/layouts/main_window.h"
-#include "shell/qt/message_boxes.h"
-#include "shell/qt/programs.h"
-#include "shell/qt/screen_window.h"
+#include "shell/qt/screens.h"
 #include "shell/qt/serial_port.h"
 #include "shell/qt/style.h"
-#include "shell/qt/timer_driver.h"
 
 namespace bkconf {
 namespace {
@@ -34,12 +30,11 @@ bool LayOutDirectory() {
   return false;
 }
 
-std::unique_ptr<ScreenWindow> MakeMainWindow(bool minimised) {
-  LoadMainWindow();
-  auto window =
-      std::make_unique<ScreenWindow>(MainWindow, MainWindowLayout(), [] { OtherPrograms->End(); });
-  window->SetDefaultButton(MainWindow.connect);
+/// Loads the screens and shows the main window.
+std::unique_ptr<ScreenWindow> Begin(bool minimised) {
+  std::unique_ptr<ScreenWindow> window = MakeWindows();
   if (minimised) window->StartMinimised();
+  LoadMainWindow();
   return window;
 }
 
@@ -48,18 +43,10 @@ int RunProgram(QApplication& application, const Arguments& arguments) {
       arguments, [](const char* name) { return qEnvironmentVariable(name).toStdString(); });
   if (!LayOutDirectory()) return EXIT_FAILURE;
   QtSerialPort port;
-  QtMessageBoxes boxes;
-  DiskFiles files;
-  QtPrograms programs;
-  TimerDriver driver;
-  Port = &port;
-  Messages = &boxes;
-  FileSystem = &files;
-  OtherPrograms = &programs;
-  ActiveTickDriver = &driver;
+  const DesktopMachine machine(port);
   std::unique_ptr<ScreenWindow> window;
   RunEvent([&] {
-    StartSession([&] { window = MakeMainWindow(arguments.minimised); },
+    StartSession([&] { window = Begin(arguments.minimised); },
                  [](const std::string& path) {
                    std::fprintf(stderr, "bkconf: waiting for %s\n", path.c_str());
                  });
