@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <set>
 #include <span>
 #include <string>
 #include <vector>
@@ -175,12 +176,19 @@ TEST(TextTest, TheLanguagesDifferUnlessTheyAreTheSameOnPurpose) {
 }
 
 TEST(TextTest, OnlyTextsThatSomethingFollowsEndInABlank) {
+  const std::set<TextId> followed = {
+      TextId::Version,       TextId::ErrorPlace,    TextId::FileLine,
+      TextId::RelayFileName, TextId::DimFileName,   TextId::RelayDcFileName,
+      TextId::LcdFileName,   TextId::IrFileName,    TextId::TemperatureFileName,
+      TextId::AlarmFileName, TextId::AudioFileName, TextId::SimulationFileName,
+  };
   for (std::size_t i = 0; i < TextCount(); ++i) {
     const auto id = static_cast<TextId>(i);
-    const bool continues = id == TextId::Version || id == TextId::ErrorPlace;
+    // What stands between two others has blanks on both sides.
+    const bool between = id == TextId::TitleSeparator;
     for (const std::string_view text : {TextOf(id).dutch, TextOf(id).french}) {
-      EXPECT_NE(text.front(), ' ') << text;
-      EXPECT_EQ(text.back() == ' ', continues) << text;
+      EXPECT_EQ(text.front() == ' ', between) << text;
+      EXPECT_EQ(text.back() == ' ', between || followed.contains(id)) << text;
     }
   }
 }
