@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <limits>
 
 namespace bkconf {
@@ -16,6 +17,22 @@ std::string_view WithoutBlanks(std::string_view text) {
   const auto first = text.find_first_not_of(' ');
   if (first == std::string_view::npos) return {};
   return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+void AppendPlainText(double number, std::string& text) {
+  // Nearly all cells hold a small whole number, and a file is thousands of them.
+  if (std::abs(number) < 1e9 && number == std::trunc(number)) {
+    std::array<char, 12> digits;
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(),
+                                   static_cast<int>(number));  // a negative zero has no sign
+    text.append(digits.data(), end.ptr);
+    return;
+  }
+  // The longest fixed form is that of the smallest number: "-0." and 324 zeros and digits.
+  std::array<char, 1100> digits;
+  const auto end =
+      std::to_chars(digits.data(), digits.data() + digits.size(), number, std::chars_format::fixed);
+  text.append(digits.data(), end.ptr);
 }
 
 }  // namespace
@@ -41,18 +58,24 @@ std::string Cell::Text() const {
 }
 
 std::string Cell::PrintForm() const {
-  if (!IsNumber()) return Text();
-  const std::string text = PlainText(std::get<double>(value_));
-  return (text.front() == '-' ? "" : " ") + text + " ";
+  std::string text;
+  AppendPrintForm(text);
+  return text;
+}
+
+void Cell::AppendPrintForm(std::string& text) const {
+  if (const std::string* string = std::get_if<std::string>(&value_)) text += *string;
+  const double* number = std::get_if<double>(&value_);
+  if (number == nullptr) return;
+  if (*number >= 0) text += ' ';
+  AppendPlainText(*number, text);
+  text += ' ';
 }
 
 std::string PlainText(double number) {
-  if (number == 0) return "0";  // a negative zero has no sign
-  // The longest fixed form is that of the smallest number: "-0." and 324 zeros and digits.
-  std::array<char, 1100> digits;
-  const auto end =
-      std::to_chars(digits.data(), digits.data() + digits.size(), number, std::chars_format::fixed);
-  return {digits.data(), end.ptr};
+  std::string text;
+  AppendPlainText(number, text);
+  return text;
 }
 
 std::optional<double> ReadsAsNumber(std::string_view text) {

@@ -36,6 +36,8 @@ class Cell {
   /// The line of a configuration file, without its line end: a number has a blank (or its sign) in
   /// front and a blank behind, a string stands as it is, and nothing is an empty line.
   std::string PrintForm() const;
+  /// Puts that line behind what stands in `text`.
+  void AppendPrintForm(std::string& text) const;
 
   /// Same type and same value; used by snapshots, never by the logic.
   friend bool operator==(const Cell&, const Cell&) = default;

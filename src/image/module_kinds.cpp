@@ -16,6 +16,10 @@ const Model* FindModel(std::string_view name) {
   return model == Models.end() ? nullptr : &*model;
 }
 
+int CodeOf(const Cell& type) {
+  return type.IsNumber() && type.Number() == type.Whole() ? type.Whole() : NoModule;
+}
+
 std::string VersionText(const Cell& version) {
   const std::string digits = PlainText(version.Number());
   return {digits.front(), '.', digits.back()};

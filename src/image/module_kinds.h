@@ -31,26 +31,99 @@ struct ModuleKind {
   /// The master has none: its cells 120 and 121 hold its clock correction.
   CellPlace address;
   CellPlace version;
+  /// What the name of its configuration file begins with; the address letter follows, if it has
+  /// one.
+  TextId filePrefix;
 };
 
 /// In the order in which an identity line is tried. "DISPL11" comes before "DISPL1", which it
 /// begins with.
 inline constexpr std::array<ModuleKind, 11> ModuleKinds = {{
-    {0, "DISPL0", "KR7021/KR8021", DataGroup::General, {&ButtonImage, 121}, {&ButtonImage, 163}},
-    {11, "DISPL11", "KR7061", DataGroup::General, {&ButtonImage, 121}, {&ButtonImage, 163}},
-    {1, "DISPL1", "KR73XX/KR8330", DataGroup::General, {&ButtonImage, 121}, {&ButtonImage, 163}},
-    {2, "DISPL2", "KR7150", DataGroup::DisplayTemperature, {&TempHeader, 0}, {&TempHeader, 3}},
-    {3, "DISPL3", "KR721X", DataGroup::DisplayTemperature, {&LcdHeader, 0}, {&LcdHeader, 1}},
-    {9, "DISPL9", "KR7110", DataGroup::General, {}, {&ButtonImage, 163}},
-    {4, "DISPL4", "KR7023/KR8335", DataGroup::General, {&ButtonImage, 121}, {&ButtonImage, 163}},
-    {5, "DISPL5", "KR7160", DataGroup::Alarm, {&AlarmImage, 121}, {&AlarmImage, 148}},
-    {6, "DISPL6", "KR7920", DataGroup::Special, {&AudioImage, 121}, {&AudioImage, 123}},
-    {7, "DISPL7", "KR7170", DataGroup::Special, {&SimulationImage, 121}, {&SimulationImage, 124}},
-    {8, "DISPL8", "KR7180", DataGroup::Special, {&IrImage, 121}, {&IrImage, 124}},
+    {0,
+     "DISPL0",
+     "KR7021/KR8021",
+     DataGroup::General,
+     {&ButtonImage, 121},
+     {&ButtonImage, 163},
+     TextId::RelayFileName},
+    {11,
+     "DISPL11",
+     "KR7061",
+     DataGroup::General,
+     {&ButtonImage, 121},
+     {&ButtonImage, 163},
+     TextId::DimFileName},
+    {1,
+     "DISPL1",
+     "KR73XX/KR8330",
+     DataGroup::General,
+     {&ButtonImage, 121},
+     {&ButtonImage, 163},
+     TextId::DimFileName},
+    {2,
+     "DISPL2",
+     "KR7150",
+     DataGroup::DisplayTemperature,
+     {&TempHeader, 0},
+     {&TempHeader, 3},
+     TextId::TemperatureFileName},
+    {3,
+     "DISPL3",
+     "KR721X",
+     DataGroup::DisplayTemperature,
+     {&LcdHeader, 0},
+     {&LcdHeader, 1},
+     TextId::LcdFileName},
+    {9, "DISPL9", "KR7110", DataGroup::General, {}, {&ButtonImage, 163}, TextId::MasterFileName},
+    {4,
+     "DISPL4",
+     "KR7023/KR8335",
+     DataGroup::General,
+     {&ButtonImage, 121},
+     {&ButtonImage, 163},
+     TextId::RelayDcFileName},
+    {5,
+     "DISPL5",
+     "KR7160",
+     DataGroup::Alarm,
+     {&AlarmImage, 121},
+     {&AlarmImage, 148},
+     TextId::AlarmFileName},
+    {6,
+     "DISPL6",
+     "KR7920",
+     DataGroup::Special,
+     {&AudioImage, 121},
+     {&AudioImage, 123},
+     TextId::AudioFileName},
+    {7,
+     "DISPL7",
+     "KR7170",
+     DataGroup::Special,
+     {&SimulationImage, 121},
+     {&SimulationImage, 124},
+     TextId::SimulationFileName},
+    {8,
+     "DISPL8",
+     "KR7180",
+     DataGroup::Special,
+     {&IrImage, 121},
+     {&IrImage, 124},
+     TextId::IrFileName},
 }};
 
 /// The kind of that code, or null: 99 is none, and a file may hold any number.
 const ModuleKind* FindKind(int code);
+
+/// The code that a cell holds for a module type. What only a file can put there, a text, nothing or
+/// a fraction, is no kind.
+int CodeOf(const Cell& type);
+
+/// The files of a manual, in the settings directory.
+struct Manual {
+  std::string_view dutch;
+  std::string_view french;
+};
 
 /// A model of the selection list. "KR7060" has no kind of its own: such a module identifies itself
 /// as one of the others.
@@ -59,23 +132,66 @@ struct Model {
   TextId caption;
   TextId groupCaption;
   std::string_view picture;
-  bool severalManuals = false;  ///< one button for each instead of one for all
+  /// One, or one for each of the buttons that take the place of the one for all.
+  std::array<Manual, 3> manuals;
+
+  bool HasSeveralManuals() const { return !manuals[1].dutch.empty(); }
 };
 
 /// In the order of the selection list.
 inline constexpr std::array<Model, 12> Models = {{
-    {"KR7021/KR8021", TextId::RelayModule, TextId::RelayFrame, "relais.bmp"},
-    {"KR7023/KR8335", TextId::RelayDcModule, TextId::RelayFrame, "relais DC.bmp"},
-    {"KR7110", TextId::MasterModule, TextId::MasterFrame, "master.bmp"},
-    {"KR7150", TextId::TemperatureModule, TextId::TemperatureFrame, "temp.bmp"},
-    {"KR721X", TextId::LcdModule, TextId::LcdFrame, "lcd.bmp"},
-    {"KR73XX/KR8330", TextId::DimModule, TextId::DimFrame, "dimmer.bmp", true},
-    {"KR7160", TextId::AlarmModule, TextId::AlarmFrame, "alarm.bmp"},
-    {"KR7920", TextId::AudioInterface, TextId::AudioFrame, "audio.bmp"},
-    {"KR7170", TextId::SimulationModule, TextId::SimulationFrame, "simu.bmp"},
-    {"KR7060", TextId::RelayInterface, TextId::RelayInterfaceFrame, "modulair.bmp"},
-    {"KR7061", TextId::LumenzaModule, TextId::LumenzaFrame, "lumenza.bmp"},
-    {"KR7180", TextId::IrModule, TextId::IrFrame, "ir.bmp"},
+    {"KR7021/KR8021",
+     TextId::RelayModule,
+     TextId::RelayFrame,
+     "relais.bmp",
+     {{{"relnl.pdf", "relfr.pdf"}}}},
+    {"KR7023/KR8335",
+     TextId::RelayDcModule,
+     TextId::RelayFrame,
+     "relais DC.bmp",
+     {{{"relDCnl.pdf", "relDCfr.pdf"}}}},
+    {"KR7110",
+     TextId::MasterModule,
+     TextId::MasterFrame,
+     "master.bmp",
+     {{{"masnl.pdf", "masfr.pdf"}}}},
+    {"KR7150",
+     TextId::TemperatureModule,
+     TextId::TemperatureFrame,
+     "temp.bmp",
+     {{{"temnl.pdf", "temfr.pdf"}}}},
+    {"KR721X", TextId::LcdModule, TextId::LcdFrame, "lcd.bmp", {{{"lcdnl.pdf", "lcdfr.pdf"}}}},
+    {"KR73XX/KR8330",
+     TextId::DimModule,
+     TextId::DimFrame,
+     "dimmer.bmp",
+     {{{"indnl.pdf", "indfr.pdf"}, {"capnl.pdf", "capfr.pdf"}, {"010nl.pdf", "010fr.pdf"}}}},
+    {"KR7160",
+     TextId::AlarmModule,
+     TextId::AlarmFrame,
+     "alarm.bmp",
+     {{{"alarmnl.pdf", "alarmfr.pdf"}}}},
+    {"KR7920",
+     TextId::AudioInterface,
+     TextId::AudioFrame,
+     "audio.bmp",
+     {{{"audionl.pdf", "audiofr.pdf"}}}},
+    {"KR7170",
+     TextId::SimulationModule,
+     TextId::SimulationFrame,
+     "simu.bmp",
+     {{{"simunl.pdf", "simufr.pdf"}}}},
+    {"KR7060",
+     TextId::RelayInterface,
+     TextId::RelayInterfaceFrame,
+     "modulair.bmp",
+     {{{"modnl.pdf", "modfr.pdf"}}}},
+    {"KR7061",
+     TextId::LumenzaModule,
+     TextId::LumenzaFrame,
+     "lumenza.bmp",
+     {{{"lumnl.pdf", "lumfr.pdf"}}}},
+    {"KR7180", TextId::IrModule, TextId::IrFrame, "ir.bmp", {{{"irnl.pdf", "irfr.pdf"}}}},
 }};
 
 /// The model of that name, or null.

@@ -1,6 +1,7 @@
 #include "platform/field.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/runtime_error.h"
 
@@ -9,6 +10,12 @@ namespace bkconf {
 Field::Field(Screen& screen, FieldKind fieldKind, std::string_view fieldName)
     : kind(fieldKind), name(fieldName) {
   screen.fields.push_back(this);
+}
+
+void TextField::Type(std::string_view text) {
+  if (!enabled || !visible) return;
+  text_ = text;
+  if (onChange) onChange();
 }
 
 void ListField::Show(std::string_view text) {
@@ -35,6 +42,27 @@ void ListField::Type(std::string_view text) {
   }
 }
 
+void ListBoxField::SetItems(std::vector<std::string> items) {
+  items_ = std::move(items);
+  index_ = -1;
+}
+
+std::string ListBoxField::Text() const {
+  return index_ < 0 ? std::string() : items_[static_cast<std::size_t>(index_)];
+}
+
+void ListBoxField::Pick(int index) {
+  if (!Has(index)) return;
+  index_ = index;
+  if (onPick) onPick();
+}
+
+void ListBoxField::Open(int index) {
+  if (!Has(index)) return;
+  Pick(index);
+  if (onOpen) onOpen();
+}
+
 void ProgressField::Start(int maximum) {
   maximum_ = maximum;
   value_ = 0;
@@ -59,6 +87,14 @@ bool MenuField::Usable() const {
     if (!menu->enabled || !menu->visible) return false;
   }
   return enabled && visible && onClick;
+}
+
+void Screen::Close() {
+  if (onClose) {
+    onClose();
+  } else {
+    shown = false;
+  }
 }
 
 Field* Screen::Find(std::string_view fieldName) const {

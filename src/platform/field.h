@@ -12,7 +12,7 @@ namespace bkconf {
 struct Screen;
 
 /// Which view a field gets.
-enum class FieldKind { Group, Label, List, Button, Progress, Picture, Menu };
+enum class FieldKind { Group, Label, Text, List, ListBox, Button, Progress, Picture, Manual, Menu };
 
 /// What all fields have. A field adds itself to its screen's list, in the order of declaration, so
 /// it never moves. Texts are UTF-8.
@@ -40,6 +40,29 @@ struct GroupField : Field {
 struct LabelField : Field {
   LabelField(Screen& screen, std::string_view fieldName)
       : Field(screen, FieldKind::Label, fieldName) {}
+
+  std::function<void()> onDoubleClick;
+
+  void DoubleClick() const {
+    if (enabled && visible && onDoubleClick) onDoubleClick();
+  }
+};
+
+/// A line of text that the user types.
+struct TextField : Field {
+  TextField(Screen& screen, std::string_view fieldName)
+      : Field(screen, FieldKind::Text, fieldName) {}
+
+  std::function<void()> onChange;  ///< runs after the user changed the text, on every character
+
+  const std::string& Text() const { return text_; }
+  /// Shows a text without running the handler.
+  void Show(std::string_view text) { text_ = text; }
+  /// Types a text in place of what stands there. A disabled or hidden field takes none.
+  void Type(std::string_view text);
+
+ private:
+  std::string text_;
 };
 
 /// A list to pick one item from. It can show a text that is none of its items: what a module holds
@@ -69,6 +92,36 @@ struct ListField : Field {
  private:
   int index_ = -1;
   std::string text_;
+};
+
+/// A list whose items are all in sight. One may be picked; a double click opens it.
+struct ListBoxField : Field {
+  ListBoxField(Screen& screen, std::string_view fieldName)
+      : Field(screen, FieldKind::ListBox, fieldName) {}
+
+  std::function<void()> onPick;  ///< runs after an item was picked
+  std::function<void()> onOpen;  ///< runs after an item was picked by a double click, or by Enter
+
+  const std::vector<std::string>& Items() const { return items_; }
+  /// Shows other items, none of them picked, without running any handler.
+  void SetItems(std::vector<std::string> items);
+
+  int Index() const { return index_; }  ///< -1 when no item is picked
+  /// The item that is picked, or nothing.
+  std::string Text() const;
+  /// Picks an item and runs `onPick`. A disabled or hidden list, or an index outside the items,
+  /// changes nothing.
+  void Pick(int index);
+  /// Picks an item, then runs `onOpen` as well.
+  void Open(int index);
+
+ private:
+  bool Has(int index) const {
+    return enabled && visible && index >= 0 && index < static_cast<int>(items_.size());
+  }
+
+  std::vector<std::string> items_;
+  int index_ = -1;
 };
 
 /// A button. Without a handler it is shown disabled, since there is nothing that it could do.
@@ -117,6 +170,17 @@ struct PictureField : Field {
   std::string file;
 };
 
+/// A document by its file name in the settings directory; a file that cannot be shown shows
+/// nothing.
+struct ManualField : Field {
+  ManualField(Screen& screen, std::string_view fieldName)
+      : Field(screen, FieldKind::Manual, fieldName) {
+    visible = false;
+  }
+
+  std::string file;
+};
+
 /// A menu (it has entries) or a menu entry. Without a handler an entry is shown disabled.
 struct MenuField : Field {
   /// `parent` is null for a menu of the menu bar.
@@ -148,6 +212,11 @@ struct Screen {
   std::string title;
   bool shown = false;
   std::vector<Field*> fields;
+  /// What closing the window does; without a handler the screen is just not shown any more.
+  std::function<void()> onClose;
+  const ButtonField* enter = nullptr;  ///< what Enter presses while no button has the focus
+
+  void Close();
 
   /// The field of that name and type, or null.
   Field* Find(std::string_view fieldName) const;

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace bkconf {
 
@@ -48,8 +49,33 @@ class Files {
   virtual ~Files() = default;
   /// The whole content, or none where the file is missing or cannot be read.
   virtual std::optional<std::string> Read(const std::string& path) const = 0;
+  /// The same for a file that has to be there. Throws RuntimeError (FileNotRead).
+  virtual std::string Load(const std::string& path) const = 0;
   /// Replaces the file whole or not at all. Throws RuntimeError (FileNotWritten).
   virtual void Write(const std::string& path, std::string_view content) = 0;
+};
+
+/// What stands between the names of a path.
+#ifdef _WIN32
+inline constexpr char PathSeparator = '\\';
+#else
+inline constexpr char PathSeparator = '/';
+#endif
+
+/// Drives and directories, for the file screens. Names come in alphabetical order.
+class Directories {
+ public:
+  virtual ~Directories() = default;
+  /// The directories that a walk can start from, as paths.
+  virtual std::vector<std::string> Drives() const = 0;
+  /// The names of the directories in a directory, without hidden ones.
+  /// Throws RuntimeError (DirectoryNotRead), as does the next.
+  virtual std::vector<std::string> FoldersIn(const std::string& path) const = 0;
+  /// The names of the files whose names end in `ending`, in capitals or not.
+  virtual std::vector<std::string> FilesIn(const std::string& path,
+                                           std::string_view ending) const = 0;
+  /// False when the directory cannot be made, also when there is something of that name.
+  virtual bool Make(const std::string& path) = 0;
 };
 
 /// Other programs, and the end of this one.
@@ -60,6 +86,8 @@ class Programs {
   virtual bool Start(const std::string& fileName) = 0;
   /// Starts a new copy of this program, minimised. False when it cannot be started.
   virtual bool StartThisProgram() = 0;
+  /// Shows a page in the web browser of the machine. Nothing is told when there is none.
+  virtual void ShowWebPage(const std::string& address) = 0;
   /// Ends this process when the event at hand is over, without asking anything.
   virtual void End() = 0;
 };
@@ -67,6 +95,7 @@ class Programs {
 inline SerialPort* Port = nullptr;
 inline MessageBoxes* Messages = nullptr;
 inline Files* FileSystem = nullptr;
+inline Directories* DirectorySystem = nullptr;
 inline Programs* OtherPrograms = nullptr;
 
 /// Holds the thread for the turns of an empty loop that counts from 0 to `last`, inclusive: one

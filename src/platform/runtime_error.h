@@ -13,6 +13,9 @@ enum class ErrorKind {
   BarPastMaximum,     ///< a progress bar was moved past its end
   PortFailed,         ///< the serial device reported an error or has gone away
   NoTableToWrite,     ///< the module asks for cells under a command that writes none
+  FileNotRead,        ///< a file could not be read; `where` holds path and reason
+  FileTooShort,       ///< a file ends before its last value; `where` holds path and line
+  DirectoryNotRead,   ///< a directory could not be read; `where` holds path and reason
   FileNotWritten,     ///< a file could not be written; `where` holds path and reason
   ProgramNotStarted,  ///< another program could not be started
 };

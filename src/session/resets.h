@@ -33,6 +33,48 @@ inline constexpr auto NewClears = std::to_array<Cell*>({
     &LcdWeekdayDirty,
 });
 
+/// Kinds with tables that are read on demand: the flags that tell that they are all in memory, and
+/// the flags that make a Send write everything. A file brings all of them.
+struct OnDemandFlags {
+  int kind;
+  std::span<Cell* const> loaded;
+  std::span<Cell* const> dirty;
+};
+
+inline constexpr auto TempLoaded = std::to_array<Cell*>({&TempImage1Loaded, &TempImage2Loaded});
+inline constexpr auto TempDirty =
+    std::to_array<Cell*>({&TempHeaderDirty, &TempRoomsDirty, &TempProgramDirty});
+inline constexpr auto LcdLoaded =
+    std::to_array<Cell*>({&LcdScreen1Loaded, &LcdScreen2Loaded, &LcdWeekdayLoaded});
+inline constexpr auto LcdDirty =
+    std::to_array<Cell*>({&LcdScreen1Dirty, &LcdScreen2Dirty, &LcdWeekdayDirty, &LcdHeaderDirty});
+inline constexpr auto MasterLoaded =
+    std::to_array<Cell*>({&MasterContextsLoaded, &MasterTimeLoaded, &MasterLightLoaded});
+inline constexpr auto MasterDirty = std::to_array<Cell*>(
+    {&MasterBaseDirty, &MasterContextsDirty, &MasterTimeDirty, &MasterLightDirty});
+
+inline constexpr auto OnDemandKinds = std::to_array<OnDemandFlags>({
+    {2, TempLoaded, TempDirty},
+    {3, LcdLoaded, LcdDirty},
+    {9, MasterLoaded, MasterDirty},
+});
+
+/// The row of the kind in memory, or null for a kind whose only table comes with its first read.
+inline const OnDemandFlags* ActiveOnDemandFlags() {
+  for (const OnDemandFlags& row : OnDemandKinds) {
+    if (row.kind == ActiveCode()) return &row;
+  }
+  return nullptr;
+}
+
+/// Cells that are kept a second time beside the image, and are copied when a file is opened.
+struct KeptCopy {
+  int kind;
+  CellPlace original;
+  Cell* copy;
+};
+inline constexpr auto KeptCopies = std::to_array<KeptCopy>({{2, {&TempHeader, 1}, &TempRoomCount}});
+
 /// Sets each of the cells to 0.
 inline void Clear(std::span<Cell* const> cells) {
   for (Cell* cell : cells) *cell = 0;

@@ -5,12 +5,6 @@
 namespace bkconf {
 namespace {
 
-#ifdef _WIN32
-constexpr char Separator = '\\';
-#else
-constexpr char Separator = '/';
-#endif
-
 std::function<void()> sessionStarted;
 std::function<void(const std::string&)> settingAwaited;
 const Setting* nextSetting = nullptr;
@@ -40,7 +34,7 @@ void RetrySettings() {
 Tick SettingsRetry{"SettingsRetry", 100, RetrySettings};
 
 std::string SettingsPath(std::string_view fileName) {
-  return SettingsDirectory + Separator + std::string(fileName);
+  return SettingsDirectory + PathSeparator + std::string(fileName);
 }
 
 bool ReadSetting(const Setting& setting) {
@@ -60,6 +54,10 @@ bool ReadSetting(const Setting& setting) {
 
 void StoreLanguage() {
   FileSystem->Write(SettingsPath("country.vdm"), Language.PrintForm() + "\r\n");
+}
+
+void StoreDirectory() {
+  FileSystem->Write(SettingsPath("directory.vdm"), DefaultDirectory.Text() + "\r\n");
 }
 
 void StorePortNumber() {

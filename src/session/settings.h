@@ -24,13 +24,15 @@ struct Setting {
   bool mayBeEmptyFile;  ///< a file of no bytes is an empty value, not one that is being written
 };
 
+inline constexpr Setting DirectorySetting = {"directory.vdm", &DefaultDirectory, false, true};
+
 /// In the order in which start-up reads them. There are no built-in defaults: a value exists only
 /// because its file does.
 inline constexpr auto Settings = std::to_array<Setting>({
     {"country.vdm", &Language, true, false},
     {"port.vdm", &PortNumber, true, false},
     {"pc.vdm", &CharDelayCount, true, false},
-    {"directory.vdm", &DefaultDirectory, false, true},
+    DirectorySetting,
 });
 
 /// Reads one setting: the first line of its file, without leading blanks. A comma belongs to the
@@ -39,6 +41,8 @@ bool ReadSetting(const Setting& setting);
 
 /// Overwrites "country.vdm" with the language, printed like a number of a configuration file.
 void StoreLanguage();
+/// Overwrites "directory.vdm" with the path as it stands.
+void StoreDirectory();
 /// Overwrites "port.vdm" with the bare digit.
 void StorePortNumber();
 

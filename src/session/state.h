@@ -50,6 +50,10 @@ inline Cell MasterBaseDirty, MasterContextsDirty, MasterTimeDirty, MasterLightDi
 inline Cell TempHeaderDirty, TempRoomsDirty, TempProgramDirty;
 inline Cell LcdHeaderDirty, LcdScreen1Dirty, LcdScreen2Dirty, LcdWeekdayDirty;
 
+/// 1 for the group of module data that a manual has hidden, while it is shown.
+inline Cell GeneralGroupWasVisible, DisplayTemperatureGroupWasVisible, AlarmGroupWasVisible,
+    SpecialGroupWasVisible;
+
 /// A copy of cell 1 of TempHeader, for the room lists of the temperature screens.
 inline Cell TempRoomCount;
 
@@ -82,6 +86,10 @@ inline constexpr auto StartUpFlags = std::to_array<Flag>({
     {"LcdScreen1Dirty", &LcdScreen1Dirty},
     {"LcdScreen2Dirty", &LcdScreen2Dirty},
     {"LcdWeekdayDirty", &LcdWeekdayDirty},
+    {"GeneralGroupWasVisible", &GeneralGroupWasVisible},
+    {"DisplayTemperatureGroupWasVisible", &DisplayTemperatureGroupWasVisible},
+    {"AlarmGroupWasVisible", &AlarmGroupWasVisible},
+    {"SpecialGroupWasVisible", &SpecialGroupWasVisible},
 });
 
 /// The other global cells.
@@ -97,9 +105,9 @@ inline constexpr auto SessionValues = std::to_array<Flag>({
     {"TempRoomCount", &TempRoomCount},
 });
 
-/// The code of the kind in memory. A text, which only a file can put there, is no kind.
+/// The code of the kind in memory.
 inline int ActiveCode() {
-  return ActiveModuleType.IsNumber() ? ActiveModuleType.Whole() : NoModule;
+  return CodeOf(ActiveModuleType);
 }
 
 /// The row of the kind in memory, or null while there is none.

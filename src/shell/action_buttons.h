@@ -4,6 +4,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 #include <string_view>
 
 #include "image/kind_set.h"
@@ -42,6 +43,8 @@ struct ActionButtonRow {
   KindSet kinds;
   TextId caption;
   bool testsModule = false;  ///< needs a module on the line: shown after a read only
+  /// Where the caption after opening a file differs from the one after a read.
+  std::optional<TextId> captionAfterOpen = std::nullopt;
 };
 
 /// In the order in which a group shows them.
@@ -101,7 +104,9 @@ inline constexpr auto ActionButtons = std::to_array<ActionButtonRow>({
      Action::Display2,
      DataGroup::DisplayTemperature,
      {3},
-     TextId::Display2ActionAfterRead},
+     TextId::Display2ActionAfterRead,
+     false,
+     TextId::Display2ActionAfterOpen},
     {"displayGeneral",
      Action::DisplayGeneral,
      DataGroup::DisplayTemperature,
@@ -113,7 +118,13 @@ inline constexpr auto ActionButtons = std::to_array<ActionButtonRow>({
      DataGroup::Special,
      {6, 7, 8},
      TextId::SecondFunctionAction},
-    {"audioSettings", Action::AudioSettings, DataGroup::Special, {6}, TextId::AudioActionAfterRead},
+    {"audioSettings",
+     Action::AudioSettings,
+     DataGroup::Special,
+     {6},
+     TextId::AudioActionAfterRead,
+     false,
+     TextId::AudioActionAfterOpen},
     {"simulationSettings",
      Action::SimulationSettings,
      DataGroup::Special,

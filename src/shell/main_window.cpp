@@ -5,10 +5,16 @@
 
 #include "link/send.h"
 #include "link/transfer.h"
+#include "platform/machine.h"
 #include "platform/runtime_error.h"
 #include "session/language.h"
 #include "session/resets.h"
+#include "shell/directory_picker.h"
+#include "shell/directory_screen.h"
+#include "shell/manual.h"
 #include "shell/menus.h"
+#include "shell/open_dialog.h"
+#include "shell/save_dialog.h"
 #include "text/windows1252.h"
 
 namespace bkconf {
@@ -64,6 +70,8 @@ MainWindowScreen::MainWindowScreen()
       tolerance(*this, "tolerance"),
       detectorCountLabel(*this, "detectorCountLabel"),
       detectorCount(*this, "detectorCount"),
+      manual(*this, "manual"),
+      closeManual(*this, "closeManual"),
       status(*this, "status"),
       transferBar(*this, "transferBar") {
   for (const ActionButtonRow& row : ActionButtons) {
@@ -155,12 +163,19 @@ void ShowDataGroup(DataGroup group) {
   }
 }
 
+bool IsShown(const ActionButtonRow& row, const ModuleKind* kind, Origin origin) {
+  const bool testable = origin == Origin::Read || !row.testsModule;
+  return kind != nullptr && row.kinds.Contains(kind->code) && testable;
+}
+
 /// Buttons and lists of other kinds hide; those of the kind show. Null hides all.
-void ShowFieldsOf(const ModuleKind* kind) {
+void ShowFieldsOf(const ModuleKind* kind, Origin origin) {
   for (std::size_t i = 0; i < ActionButtons.size(); ++i) {
+    const ActionButtonRow& row = ActionButtons[i];
     ButtonField& button = *MainWindow.actionButtons[i];
-    button.visible = kind != nullptr && ActionButtons[i].kinds.Contains(kind->code);
-    Show(button.caption, ActionButtons[i].caption);
+    button.visible = IsShown(row, kind, origin);
+    Show(button.caption,
+         origin == Origin::File ? row.captionAfterOpen.value_or(row.caption) : row.caption);
   }
   for (const CellField& field : CellFields()) {
     const bool shown = kind != nullptr && field.kinds.Contains(kind->code);
@@ -186,7 +201,7 @@ void ClearModuleFields() {
 /// touched: what kind it takes is settled by the module.
 void ShowModel() {
   const Model* model = FindModel(MainWindow.moduleList.Text());
-  const bool several = model != nullptr && model->severalManuals;
+  const bool several = model != nullptr && model->HasSeveralManuals();
   MainWindow.pictureGroup.visible = model != nullptr;
   MainWindow.moreInfo.visible = model != nullptr && !several;
   for (ButtonField* info :
@@ -207,9 +222,9 @@ void ShowModelOf(const ModuleKind& kind) {
   ShowModel();
 }
 
-void ShowGroupOf(const ModuleKind& kind) {
+void ShowGroupOf(const ModuleKind& kind, Origin origin) {
   ShowDataGroup(kind.group);
-  ShowFieldsOf(&kind);
+  ShowFieldsOf(&kind, origin);
 }
 
 /// The letter that the image holds, as its character.
@@ -217,13 +232,18 @@ void ShowAddress(ListField& list) {
   list.Show(CharacterOf(CellAt(ActiveKind()->address).Whole()));
 }
 
-void ShowModuleCells() {
+void ShowAddressAndCells() {
   const ModuleKind* kind = ActiveKind();
-  DataGroupFields& fields = MainWindow.Group(kind->group);
-  if (HasAddress(kind)) ShowAddress(fields.address);
+  if (HasAddress(kind)) ShowAddress(MainWindow.Group(kind->group).address);
   for (const CellField& field : CellFields()) {
     if (field.kinds.Contains(kind->code)) field.list->Show(CellAt(field.cell).Text());
   }
+}
+
+void ShowModuleCells() {
+  ShowAddressAndCells();
+  const ModuleKind* kind = ActiveKind();
+  DataGroupFields& fields = MainWindow.Group(kind->group);
   fields.version.caption = std::string(Text(TextId::Version)) + VersionText(CellAt(kind->version));
   fields.version.visible = true;
 }
@@ -239,7 +259,8 @@ void EnableMenus(bool enabled) {
 /// The info buttons go with them: a manual over the window would free the selection list in the
 /// middle of a transfer.
 void EnableActions(bool enabled) {
-  for (const auto& button : MainWindow.actionButtons) button->enabled = enabled;
+  const bool usable = enabled && ActiveKind() != nullptr;
+  for (const auto& button : MainWindow.actionButtons) button->enabled = usable;
   for (ButtonField* info : {&MainWindow.moreInfo, &MainWindow.infoInductive,
                             &MainWindow.infoCapacitive, &MainWindow.infoAnalogue}) {
     info->enabled = enabled;
@@ -303,7 +324,6 @@ void FillLists() {
 }
 
 void ShowCaptions() {
-  Show(MainWindow.title, TextId::WindowTitle);
   Show(MainWindow.actionGroup.caption, TextId::ActionGroup);
   Show(MainWindow.connect.caption, TextId::Connect);
   Show(MainWindow.send.caption, TextId::Send);
@@ -330,7 +350,7 @@ void FillTransferWindow() {
             .enableActions = EnableActions,
             .enableModuleFields = EnableModuleFields,
             .showModel = ShowModelOf,
-            .showFields = ShowGroupOf,
+            .showFields = [](const ModuleKind& kind) { ShowGroupOf(kind, Origin::Read); },
             .showModuleCells = ShowModuleCells};
 }
 
@@ -347,7 +367,7 @@ void FillButtons() {
 /// What the window shows while there is no image.
 void ShowNoModule() {
   ShowDataGroup(DataGroup::General);
-  ShowFieldsOf(nullptr);
+  ShowFieldsOf(nullptr, Origin::Read);
   ClearModuleFields();
   EnableModuleFields(false);
   EnableActions(true);
@@ -357,10 +377,29 @@ void ShowNoModule() {
   MainWindow.moduleList.Clear();
   ShowModel();
   MainWindow.Bewaren.enabled = MainWindow.Bewaren_als.enabled = false;
-  Show(MainWindow.title, TextId::WindowTitle);
+  ShowTitle("");
 }
 
 }  // namespace
+
+void ShowTitle(const std::string& path) {
+  Show(MainWindow.title, TextId::WindowTitle);
+  if (path.empty()) return;
+  MainWindow.title += std::string(TextOf(TextId::TitleSeparator).dutch) + path;
+}
+
+void ShowImage(Origin origin) {
+  if (const ModuleKind* kind = ActiveKind()) {
+    ShowModelOf(*kind);
+    ShowGroupOf(*kind, origin);
+    ClearModuleFields();
+    ShowAddressAndCells();
+  }
+  MainWindow.connect.enabled = MainWindow.send.enabled = true;
+  EnableActions(true);
+  EnableModuleFields(true);
+  Show(MainWindow.status.caption, TextId::EditMode);
+}
 
 void LoadMainWindow() {
   FillTransferWindow();
@@ -368,7 +407,14 @@ void LoadMainWindow() {
   FillMenus();
   FillLists();
   FillButtons();
+  LoadManuals();
+  LoadOpenDialog();
+  LoadSaveDialog();
+  LoadDirectoryScreen();
+  LoadDirectoryPicker();
   ShowNoModule();
+  MainWindow.onClose = [] { OtherPrograms->End(); };
+  MainWindow.enter = &MainWindow.connect;
   MainWindow.shown = true;
   UpgradeHandOff.Enable();
 }
@@ -382,7 +428,7 @@ void Connect() {
     if (!StartTransfer()) return;
     MainWindow.Bewaren.enabled = false;
     MainWindow.Bewaren_als.enabled = true;
-    Show(MainWindow.title, TextId::WindowTitle);
+    ShowTitle("");
   } catch (const RuntimeError&) {
     // A port that fails while it is closed or opened is like one that cannot be opened.
   }
@@ -391,6 +437,7 @@ void Connect() {
 void NewModule() {
   // A display's table frees the window before the module's last line has come.
   StopLink();
+  CloseManual();
   AlarmImage[123] = 0;
   ActiveModuleType = NoModule;
   RxLine.clear();

@@ -56,6 +56,10 @@ struct MainWindowScreen : Screen {
   ListField detectorCount;                                  ///< cell 123 of AlarmImage, 1 to 12
   std::vector<std::unique_ptr<ButtonField>> actionButtons;  ///< one for each row of ActionButtons
 
+  // Over all of it
+  ManualField manual;
+  ButtonField closeManual;
+
   // Status
   LabelField status;
   ProgressField transferBar;
@@ -68,6 +72,16 @@ inline MainWindowScreen MainWindow;
 
 /// Start-up of the window once the settings are read: title, captions, lists, marks.
 void LoadMainWindow();
+
+/// Where the image in memory has come from. A file comes without a module to test.
+enum class Origin { Read, File };
+
+/// Shows what the image in memory is and holds: model, picture, groups, address and action buttons,
+/// all of them usable. A kind that is unknown leaves what is shown, with nothing to edit.
+void ShowImage(Origin origin);
+
+/// The program's name, and behind it the path of a file unless it is empty.
+void ShowTitle(const std::string& path);
 
 /// What the button Connect does.
 void Connect();

@@ -8,13 +8,20 @@
 #include "platform/runtime_error.h"
 #include "session/language.h"
 #include "session/settings.h"
+#include "shell/directory_screen.h"
 #include "shell/main_window.h"
+#include "shell/module_file.h"
+#include "shell/open_dialog.h"
+#include "shell/save_dialog.h"
 
 namespace bkconf {
 namespace {
 
 constexpr int Dutch = 1;
 constexpr int French = 2;
+
+/// The maker's page, from the build's settings.
+constexpr std::string_view WebAddress = BKCONF_WEB_ADDRESS;
 
 std::array<MenuField*, 8> PortEntries() {
   return {&MainWindow.p1, &MainWindow.p2, &MainWindow.p3, &MainWindow.p4,
@@ -102,6 +109,12 @@ void FillMenus() {
     line->separator = true;
   }
   MainWindow.nieuw.onClick = NewModule;
+  MainWindow.openen.onClick = ShowOpenDialog;
+  MainWindow.Bewaren.onClick = SaveModule;
+  MainWindow.Bewaren_als.onClick = ShowSaveDialog;
+  MainWindow.instellingen.onClick = ShowDirectoryScreen;
+  MainWindow.Web.caption = WebAddress;
+  MainWindow.Web.onClick = [] { OtherPrograms->ShowWebPage(std::string(WebAddress)); };
   MainWindow.Einde.onClick = [] { OtherPrograms->End(); };
   MainWindow.ned.checkable = MainWindow.frans.checkable = true;
   MainWindow.ned.checked = Language.Number() == Dutch;

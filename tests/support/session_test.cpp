@@ -1,15 +1,28 @@
 #include "support/session_test.h"
 
+#include <algorithm>
+#include <cctype>
 #include <memory>
 
 #include "image/tables.h"
 #include "link/link_ticks.h"
 #include "link/transfer.h"
 #include "session/settings.h"
+#include "shell/directory_picker.h"
+#include "shell/directory_screen.h"
 #include "shell/menus.h"
+#include "shell/open_dialog.h"
+#include "shell/save_dialog.h"
 
 namespace bkconf {
 namespace {
+
+/// A screen cannot be assigned, since its fields know their place.
+template <typename Screen>
+void MakeAnew(Screen& screen) {
+  std::destroy_at(&screen);
+  std::construct_at(&screen);
+}
 
 void ResetGlobals() {
   for (Table* table : AllTables) {
@@ -22,15 +35,18 @@ void ResetGlobals() {
   TransferUnderWay = false;
   LinkHandlers = {};
   ActionHandlers = {};
-  // A window cannot be assigned, since its fields know their place: it is made anew.
-  std::destroy_at(&MainWindow);
-  std::construct_at(&MainWindow);
+  MakeAnew(MainWindow);
+  MakeAnew(OpenDialog);
+  MakeAnew(SaveDialog);
+  MakeAnew(DirectoryScreen);
+  MakeAnew(DirectoryPicker);
 }
 
 void DisableTicks() {
   for (Tick* tick : LinkTicks) tick->Disable();
   SettingsRetry.Disable();
   UpgradeHandOff.Disable();
+  FolderRetry.Disable();
 }
 
 }  // namespace
@@ -39,6 +55,55 @@ std::optional<std::string> FakeFiles::Read(const std::string& path) const {
   const auto file = content.find(path);
   if (file == content.end()) return std::nullopt;
   return file->second;
+}
+
+std::string FakeFiles::Load(const std::string& path) const {
+  const auto file = content.find(path);
+  if (file == content.end()) throw RuntimeError(ErrorKind::FileNotRead, path + ": missing");
+  return file->second;
+}
+
+namespace {
+
+std::string ParentOf(const std::string& path) {
+  const auto slash = path.rfind('/');
+  return slash == 0 ? "/" : path.substr(0, slash);
+}
+
+std::string NameOf(const std::string& path) {
+  return path.substr(path.rfind('/') + 1);
+}
+
+bool EndsInEitherCase(const std::string& name, std::string_view ending) {
+  return name.size() >= ending.size() &&
+         std::equal(ending.begin(), ending.end(), name.end() - std::ssize(ending),
+                    [](unsigned char a, unsigned char b) { return toupper(a) == toupper(b); });
+}
+
+}  // namespace
+
+std::vector<std::string> FakeDirectories::FoldersIn(const std::string& path) const {
+  if (!existing.contains(path)) throw RuntimeError(ErrorKind::DirectoryNotRead, path + ": missing");
+  std::vector<std::string> names;
+  for (const std::string& each : existing) {
+    if (each != "/" && ParentOf(each) == path) names.push_back(NameOf(each));
+  }
+  return names;
+}
+
+std::vector<std::string> FakeDirectories::FilesIn(const std::string& path,
+                                                  std::string_view ending) const {
+  if (!existing.contains(path)) throw RuntimeError(ErrorKind::DirectoryNotRead, path + ": missing");
+  std::vector<std::string> names;
+  for (const auto& [file, text] : files_.content) {
+    if (ParentOf(file) == path && EndsInEitherCase(file, ending)) names.push_back(NameOf(file));
+  }
+  return names;
+}
+
+bool FakeDirectories::Make(const std::string& path) {
+  tries.push_back(path);
+  return canMake && existing.insert(path).second;
 }
 
 void FakeFiles::Write(const std::string& path, std::string_view text) {
@@ -61,8 +126,9 @@ SessionTest::SessionTest() {
   Port = &line;
   Messages = &messages;
   FileSystem = &files;
+  DirectorySystem = &directories;
   OtherPrograms = &programs;
-  SettingsDirectory = "settings";
+  SettingsDirectory = "/settings";
   BusyLoop = [this](std::int64_t last) {
     if (last >= 0) clock.Hold(last + 1);
   };
@@ -78,7 +144,7 @@ void SessionTest::PutSettings(int language) {
   files.content[SettingsPath("country.vdm")] = " " + std::to_string(language) + " \r\n";
   files.content[SettingsPath("port.vdm")] = "1\r\n";
   files.content[SettingsPath("pc.vdm")] = "2000\r\n";
-  files.content[SettingsPath("directory.vdm")] = "house\r\n";
+  files.content[SettingsPath("directory.vdm")] = "/house\r\n";
 }
 
 void SessionTest::Start(int language) {

@@ -7,6 +7,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -30,15 +31,37 @@ class FakeMessages : public MessageBoxes {
 class FakeFiles : public Files {
  public:
   std::optional<std::string> Read(const std::string& path) const override;
+  std::string Load(const std::string& path) const override;
   void Write(const std::string& path, std::string_view content) override;
   std::map<std::string, std::string> content;
   bool full = false;  ///< every write fails
+};
+
+/// A tree of directories in memory, with the files of `FakeFiles` in it.
+class FakeDirectories : public Directories {
+ public:
+  explicit FakeDirectories(const FakeFiles& files) : files_(files) {}
+  std::vector<std::string> Drives() const override { return drives; }
+  std::vector<std::string> FoldersIn(const std::string& path) const override;
+  std::vector<std::string> FilesIn(const std::string& path, std::string_view ending) const override;
+  bool Make(const std::string& path) override;
+
+  std::vector<std::string> drives = {"/", "/home/installer", "/media/stick"};
+  std::set<std::string> existing = {"/",        "/home",        "/home/installer", "/house",
+                                    "/media",   "/media/stick", "/house/Cellar",   "/house/Attic",
+                                    "/settings"};
+  std::vector<std::string> tries;  ///< what `Make` was asked for
+  bool canMake = true;
+
+ private:
+  const FakeFiles& files_;
 };
 
 class FakePrograms : public Programs {
  public:
   bool Start(const std::string& fileName) override;
   bool StartThisProgram() override;
+  void ShowWebPage(const std::string& address) override { events.push_back("show " + address); }
   void End() override { events.emplace_back("end"); }
   bool canStart = false;
   std::vector<std::string> events;  ///< "start upgrade.exe", "start this program", "end"
@@ -54,6 +77,7 @@ class SessionTest : public testing::Test {
   FakeLine line{clock};
   FakeMessages messages;
   FakeFiles files;
+  FakeDirectories directories{files};
   FakePrograms programs;
 
   /// Puts the four settings files in place: Dutch or French, port 1, 2000 turns of 1 microsecond.

@@ -1,0 +1,98 @@
+#include "shell/module_file.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "image/configuration_file.h"
+#include "link/transfer.h"
+#include "platform/machine.h"
+#include "platform/runtime_error.h"
+#include "session/language.h"
+#include "session/resets.h"
+#include "shell/directory_lists.h"
+#include "shell/main_window.h"
+#include "shell/manual.h"
+#include "text/windows1252.h"
+
+namespace bkconf {
+namespace {
+
+/// The tables as the file has them, and its type. A file that cannot be used has changed nothing.
+Cell LoadTables(const std::string& path) {
+  const std::string content = FileSystem->Load(path);
+  try {
+    return ReadConfiguration(content);
+  } catch (const RuntimeError& error) {
+    throw RuntimeError(error.kind,
+                       path + ", " + std::string(Text(TextId::FileLine)) + error.what());
+  }
+}
+
+void Set(std::span<Cell* const> flags) {
+  for (Cell* flag : flags) *flag = 1;
+}
+
+/// What else the session keeps of an image that has come whole.
+void SetFlags() {
+  if (const OnDemandFlags* flags = ActiveOnDemandFlags()) {
+    Set(flags->loaded);
+    Set(flags->dirty);
+  }
+  for (const KeptCopy& kept : KeptCopies) {
+    if (kept.kind == ActiveCode()) *kept.copy = (*kept.original.table)[kept.original.index];
+  }
+}
+
+void ShowFile() {
+  MainWindow.Bewaren.enabled = MainWindow.Bewaren_als.enabled = true;
+  ShowTitle(CurrentFilePath.Text());
+}
+
+void Write(const std::string& path) {
+  FileSystem->Write(path, PrintConfiguration(ActiveModuleType));
+}
+
+}  // namespace
+
+void OpenModule(const std::string& path) {
+  // A display's table frees the window before the module's last line has come.
+  StopLink();
+  Cell type = LoadTables(path);
+  ActiveModuleType = std::move(type);
+  CurrentFilePath = path;
+  CloseManual();
+  SetFlags();
+  ShowImage(Origin::File);
+  ShowFile();
+}
+
+void SaveModule() {
+  Write(CurrentFilePath.Text());
+  ShowFile();
+}
+
+void SaveModuleAs(const std::string& directory, const std::string& name) {
+  const std::string path = Joined(directory, name);
+  const std::string extended = path + std::string(FileExtension);
+  Write(name.ends_with(FileExtension) ? path : extended);
+  CurrentFilePath = extended;
+  ShowFile();
+}
+
+bool SaveDialogGuard() {
+  if (ActiveKind() == nullptr) return false;
+  const OnDemandFlags* flags = ActiveOnDemandFlags();
+  return flags == nullptr || std::all_of(flags->loaded.begin(), flags->loaded.end(),
+                                         [](const Cell* flag) { return flag->Number() == 1; });
+}
+
+std::string ProposedName() {
+  const ModuleKind* kind = ActiveKind();
+  if (kind == nullptr) return {};
+  std::string name(Text(kind->filePrefix));
+  const CellPlace& address = kind->address;
+  if (address.table != nullptr) name += CharacterOf((*address.table)[address.index].Whole());
+  return name;
+}
+
+}  // namespace bkconf
