@@ -4,6 +4,10 @@
 
 #include "link/transfer.h"
 #include "session/settings.h"
+#include "shell/directory_screen.h"
+#include "shell/module_file.h"
+#include "shell/open_dialog.h"
+#include "shell/save_dialog.h"
 #include "support/session_test.h"
 
 namespace bkconf {
@@ -200,6 +204,55 @@ TEST_F(MenusTest, NoEntryIsUsableDuringATransfer) {
     FinishTransfer();
   }
   EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(MenusTest, TheEntriesOfTheFilesAndThePreferencesOpenTheirScreens) {
+  Start();
+  EXPECT_TRUE(MainWindow.openen.Usable());
+  EXPECT_FALSE(OpenDialog.shown);
+  MainWindow.openen.Click();
+  EXPECT_TRUE(OpenDialog.shown);
+  OpenDialog.Close();
+  EXPECT_TRUE(MainWindow.instellingen.Usable());
+  MainWindow.instellingen.Click();
+  EXPECT_TRUE(DirectoryScreen.shown);
+  DirectoryScreen.Close();
+  Plug(0);
+  ReadModule();
+  MainWindow.Bewaren_als.Click();
+  EXPECT_TRUE(SaveDialog.shown);
+}
+
+TEST_F(MenusTest, NoEntryOpensAScreenOrSavesDuringATransfer) {
+  Start();
+  Plug(0);
+  ReadModule();
+  SaveModuleAs("/house", "a");
+  files.content["/house/a.BK1"] = "old";
+  for (ButtonField* start : {&MainWindow.connect, &MainWindow.send}) {
+    start->Click();
+    for (MenuField* entry : {&MainWindow.openen, &MainWindow.Bewaren, &MainWindow.Bewaren_als,
+                             &MainWindow.instellingen, &MainWindow.Web}) {
+      entry->Click();
+    }
+    FinishTransfer();
+  }
+  EXPECT_FALSE(OpenDialog.shown || SaveDialog.shown || DirectoryScreen.shown);
+  EXPECT_EQ(files.content["/house/a.BK1"], "old");
+  EXPECT_EQ(programs.events, Events{"start upgrade.exe"});
+}
+
+TEST_F(MenusTest, TheEntryOfTheMakersPageShowsItsAddressAndThePage) {
+  for (const int language : {1, 2}) {
+    Start(language);
+    EXPECT_FALSE(MainWindow.Web.caption.empty());
+    programs.events.clear();
+    const Snapshot before = TakeSnapshot();
+    MainWindow.Web.Click();
+    EXPECT_EQ(programs.events, Events{"show " + MainWindow.Web.caption});
+    ExpectOnlyChanged(before, {});
+    EXPECT_TRUE(messages.told.empty());
+  }
 }
 
 TEST_F(MenusTest, TheHandOffIsTriedOnceAfter50Milliseconds) {
