@@ -12,6 +12,7 @@ class ListBoxView::Box : public QListWidget {
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setUniformItemSizes(true);
+    setSpacing(ItemSpacing);
   }
 
   int SelectedRow() const {
@@ -46,9 +47,11 @@ class ListBoxView::Box : public QListWidget {
   }
 
  private:
+  static constexpr int ItemSpacing = 2;
+
   QSize Room(int characters, int lines) const {
     return {characters * fontMetrics().averageCharWidth() + 2 * frameWidth(),
-            lines * fontMetrics().lineSpacing() + 2 * frameWidth()};
+            lines * (fontMetrics().lineSpacing() + 2 * ItemSpacing) + 2 * frameWidth()};
   }
 
   const ListBoxField& field_;

@@ -61,6 +61,9 @@ void ManualView::Open() {
   pages_ = std::make_unique<QPdfView>(Widget());
   pages_->setPageMode(QPdfView::PageMode::MultiPage);
   pages_->setZoomMode(QPdfView::ZoomMode::FitToWidth);
+  QPalette palette = pages_->palette();
+  palette.setColor(QPalette::Dark, palette.color(QPalette::Window));  // around the pages
+  pages_->setPalette(palette);
   pages_->setDocument(document_.get());
   pages_->setAccessibleName(SpokenName());
   Widget()->layout()->addWidget(pages_.get());

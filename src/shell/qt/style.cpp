@@ -66,6 +66,13 @@ class CardStyle : public QProxyStyle {
     return place;
   }
 
+  QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& content,
+                         const QWidget* widget) const override {
+    QSize size = QProxyStyle::sizeFromContents(type, option, content, widget);
+    if (type == CT_PushButton) size.rwidth() += 2 * ButtonPadding;
+    return size;
+  }
+
   static QFont Bold(QFont font) {
     font.setWeight(QFont::DemiBold);
     return font;
@@ -73,6 +80,7 @@ class CardStyle : public QProxyStyle {
 
  private:
   static constexpr double Radius = 5;
+  static constexpr int ButtonPadding = 6;
 };
 
 QPalette LightPalette() {

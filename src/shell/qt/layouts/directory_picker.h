@@ -8,7 +8,7 @@ namespace bkconf {
 
 inline Part DirectoryPickerLayout() {
   return Column(
-      {Below("driveLabel", "drives"), Labelled("driveLabel", "directories"),
+      {Below("driveLabel", "drives"), Labelled("currentLabel", "directories"),
        Row({Item("currentLabel"), Share(1, Item("current", Look::Path))}), Rule(),
        Row({Item("setDefault"), Space(), Item("select", Look::Primary), Item("cancel")})});
 }

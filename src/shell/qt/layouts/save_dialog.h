@@ -7,13 +7,14 @@
 namespace bkconf {
 
 inline Part SaveDialogLayout() {
-  const Part where = Column(
-      {Below("driveLabel", "drives"), Below("directoryLabel", "directories"),
-       Row({Share(1, Item("newFolder")), Share(1, Item("folderName")), Item("makeFolder")})});
+  const Part where =
+      Column({Below("driveLabel", "drives"), Below("directoryLabel", "directories"),
+              Row({Share(1, Item("newFolder")), Share(1, Labelled("newFolder", "folderName")),
+                   Item("makeFolder")})});
   const Part what =
       Column({Below("filesLabel", "files"),
               Row({Item("fileNameLabel"), Share(1, Labelled("fileNameLabel", "fileName"))})});
-  return Column({Row({Share(2, where), Share(3, what)}), Item("path", Look::Path), Rule(),
+  return Column({Row({Share(1, where), Share(1, what)}), Item("path", Look::Path), Rule(),
                  Row({Space(), Item("save", Look::Primary)})});
 }
 
