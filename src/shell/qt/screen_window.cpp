@@ -191,13 +191,14 @@ void ScreenWindow::Settle() {
   const QSize wanted = opener_ == nullptr ? PreferredSize : sizeHint();
   resize(wanted.boundedTo(desktop.size() - FrameRoom).expandedTo(minimumSizeHint()));
   if (opener_ == nullptr) return;
-  QRect place = geometry();
+  const QRect room = desktop.adjusted(FrameRoom.width() / 2, FrameRoom.height(), 0, 0);
+  QRect place({}, size());
   place.moveCenter(opener_->geometry().center());
-  place.moveLeft(std::clamp(place.left(), desktop.left(),
-                            std::max(desktop.left(), desktop.right() - place.width())));
-  place.moveTop(std::clamp(place.top(), desktop.top(),
-                           std::max(desktop.top(), desktop.bottom() - place.height())));
-  move(place.topLeft());
+  if (place.right() > room.right()) place.moveRight(room.right());
+  if (place.bottom() > room.bottom()) place.moveBottom(room.bottom());
+  if (place.left() < room.left()) place.moveLeft(room.left());
+  if (place.top() < room.top()) place.moveTop(room.top());
+  setGeometry(place);
 }
 
 void ScreenWindow::closeEvent(QCloseEvent* event) {
