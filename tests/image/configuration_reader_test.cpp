@@ -114,6 +114,13 @@ TEST_F(ConfigurationReaderTest, BehindAClosingCommaStandsAnEmptyValue) {
   EXPECT_EQ(FirstCells("A,\nB\n", 3), (Cells{"A", Cell(), "B"}));
 }
 
+TEST_F(ConfigurationReaderTest, BehindACommaAtTheEndOfTheFileStandsAnEmptyValueToo) {
+  EXPECT_EQ(ReadConfiguration(FileOfLines(" 0 ", 162) + "A,"), Cell(0));
+  EXPECT_EQ(ButtonImage[162], Cell("A"));
+  EXPECT_EQ(ButtonImage[163], Cell());
+  ExpectTooShort(FileOfLines(" 0 ", 161) + "A,");
+}
+
 TEST_F(ConfigurationReaderTest, CommasAloneAreEmptyValues) {
   EXPECT_EQ(FirstCells(",,\r\nB\r\n", 4), (Cells{Cell(), Cell(), Cell(), "B"}));
   EXPECT_EQ(FirstCells(",A\r\nB\r\n", 3), (Cells{Cell(), "A", "B"}));
