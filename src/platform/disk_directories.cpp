@@ -109,7 +109,7 @@ std::string HomeDirectory() {
 }  // namespace
 
 std::vector<std::string> MountedVolumes(std::string_view mountTable) {
-  constexpr auto Places = std::to_array<std::string_view>({"/media", "/run/media", "/mnt"});
+  constexpr auto places = std::to_array<std::string_view>({"/media", "/run/media", "/mnt"});
   std::vector<std::string> volumes;
   std::istringstream lines{std::string(mountTable)};
   for (std::string line; std::getline(lines, line);) {
@@ -118,7 +118,7 @@ std::vector<std::string> MountedVolumes(std::string_view mountTable) {
     std::string escaped;
     words >> device >> escaped;
     const std::string path = Unescaped(escaped);
-    const bool wanted = std::any_of(Places.begin(), Places.end(), [&path](std::string_view place) {
+    const bool wanted = std::any_of(places.begin(), places.end(), [&path](std::string_view place) {
       return LiesUnder(path, place);
     });
     // A volume that is mounted over another stands there twice.

@@ -40,7 +40,7 @@ Reason WhyNotRegular(const fs::path& path, std::error_code& error) {
 Reason ReadWhole(const std::string& path, std::string& content) {
   const fs::path name = fs::u8path(path);
   std::error_code error;
-  if (const Reason reason = WhyNotRegular(name, error); !reason.empty()) return reason;
+  if (Reason reason = WhyNotRegular(name, error); !reason.empty()) return reason;
   errno = 0;
   std::ifstream file(name, std::ios::binary);
   if (!file) return LastReason();
@@ -54,10 +54,10 @@ Reason ReadWhole(const std::string& path, std::string& content) {
 
 /// The file that a write replaces: the target of symbolic links, also where it is not there yet.
 Reason FollowLinks(fs::path& path) {
-  constexpr int MostLinks = 40;
+  constexpr int mostLinks = 40;
   std::error_code error;
   for (int links = 0; fs::is_symlink(fs::symlink_status(path, error)); ++links) {
-    if (links == MostLinks) return ReasonOf(std::errc::too_many_symbolic_link_levels);
+    if (links == mostLinks) return ReasonOf(std::errc::too_many_symbolic_link_levels);
     const fs::path target = fs::read_symlink(path, error);
     if (error) return error.message();
     path = path.parent_path() / target;  // an absolute target stands for itself
@@ -118,7 +118,7 @@ Reason WriteBeside(const fs::path& beside, const fs::path& path, std::string_vie
   if (!file.IsOpen()) return LastReason();
   if ((replaces && !MakeLike(file.Number(), old)) || !WriteAll(file.Number(), content) ||
       fsync(file.Number()) != 0) {
-    const Reason reason = LastReason();
+    Reason reason = LastReason();
     unlink(beside.c_str());
     return reason;
   }
@@ -146,7 +146,7 @@ Reason WriteBeside(const fs::path& beside, const fs::path&, std::string_view con
   file.write(content.data(), static_cast<std::streamsize>(content.size()));
   file.close();
   if (file) return "";
-  const Reason reason = LastReason();
+  Reason reason = LastReason();
   std::error_code ignored;
   fs::remove(beside, ignored);
   return reason;
@@ -159,17 +159,17 @@ void SyncDirectory(const fs::path&) {}
 /// A file that is missing can be written; one that is there has to be the user's to write.
 Reason WhyNotReplaceable(const fs::path& path) {
   std::error_code error;
-  const Reason reason = WhyNotRegular(path, error);
+  Reason reason = WhyNotRegular(path, error);
   if (error == std::errc::no_such_file_or_directory) return "";
   return reason.empty() ? WhyNotWritable(path) : reason;
 }
 
 Reason Replace(fs::path path, std::string_view content) {
-  if (const Reason reason = FollowLinks(path); !reason.empty()) return reason;
-  if (const Reason reason = WhyNotReplaceable(path); !reason.empty()) return reason;
+  if (Reason reason = FollowLinks(path); !reason.empty()) return reason;
+  if (Reason reason = WhyNotReplaceable(path); !reason.empty()) return reason;
   fs::path beside = path;
   beside += ".new";
-  if (const Reason reason = WriteBeside(beside, path, content); !reason.empty()) return reason;
+  if (Reason reason = WriteBeside(beside, path, content); !reason.empty()) return reason;
   std::error_code error;
   fs::rename(beside, path, error);
   if (error) {
@@ -191,13 +191,13 @@ std::optional<std::string> DiskFiles::Read(const std::string& path) const {
 
 std::string DiskFiles::Load(const std::string& path) const {
   std::string content;
-  const Reason reason = ReadWhole(path, content);
+  Reason reason = ReadWhole(path, content);
   if (!reason.empty()) throw RuntimeError(ErrorKind::FileNotRead, path + ": " + reason);
   return content;
 }
 
 void DiskFiles::Write(const std::string& path, std::string_view content) {
-  const Reason reason = Replace(fs::u8path(path), content);
+  Reason reason = Replace(fs::u8path(path), content);
   if (!reason.empty()) throw RuntimeError(ErrorKind::FileNotWritten, path + ": " + reason);
 }
 
