@@ -1,10 +1,27 @@
 #include "shell/qt/list_box_view.h"
 
 #include <QKeyEvent>
+#include <QStyledItemDelegate>
 
 #include "shell/qt/event_guard.h"
 
 namespace bkconf {
+namespace {
+
+/// Around the text of an item, in device-independent pixels. It belongs to the item, so that no
+/// click between two items is lost.
+constexpr int ItemPadding = 2;
+
+class PaddedItems : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return QStyledItemDelegate::sizeHint(option, index).grownBy({0, ItemPadding, 0, ItemPadding});
+  }
+};
+
+}  // namespace
 
 class ListBoxView::Box : public QListWidget {
  public:
@@ -12,7 +29,7 @@ class ListBoxView::Box : public QListWidget {
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setUniformItemSizes(true);
-    setSpacing(ItemSpacing);
+    setItemDelegate(new PaddedItems(this));
   }
 
   int SelectedRow() const {
@@ -47,11 +64,9 @@ class ListBoxView::Box : public QListWidget {
   }
 
  private:
-  static constexpr int ItemSpacing = 2;
-
   QSize Room(int characters, int lines) const {
     return {characters * fontMetrics().averageCharWidth() + 2 * frameWidth(),
-            lines * (fontMetrics().lineSpacing() + 2 * ItemSpacing) + 2 * frameWidth()};
+            lines * (fontMetrics().lineSpacing() + 2 * ItemPadding) + 2 * frameWidth()};
   }
 
   const ListBoxField& field_;
