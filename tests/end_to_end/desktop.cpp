@@ -45,6 +45,24 @@ std::string Geometry(const Widget& widget) {
          std::to_string(widget.x) + "+" + std::to_string(widget.y);
 }
 
+// The words for xdotool: the mouse goes to the middle of the widget and does `click` there.
+std::vector<std::string> ClickAt(const Widget& widget, const std::vector<std::string>& click) {
+  std::vector<std::string> words = {"xdotool", "mousemove",
+                                    std::to_string(widget.x + widget.width / 2),
+                                    std::to_string(widget.y + widget.height / 2), "click"};
+  words.insert(words.end(), click.begin(), click.end());
+  return words;
+}
+
+std::optional<int> NumberBehind(const std::string& caption, const std::string& text) {
+  const auto at = text.find(caption);
+  if (at == std::string::npos) return std::nullopt;
+  std::istringstream words(text.substr(at + caption.size()));
+  int number = 0;
+  if (!(words >> number)) return std::nullopt;
+  return number;
+}
+
 }  // namespace
 
 Desktop::Desktop(const fs::path& scratch) : scratch_(scratch) {
@@ -65,14 +83,16 @@ Desktop::~Desktop() {
 }
 
 void Desktop::StartDisplay() {
-  // Two displays that start at the same time can take the same number, and one of them goes.
+  // Without -noreset the display drops all its programs whenever the last one goes: the window
+  // manager as well if it comes at that moment. Two displays that start at the same time can take
+  // the same number, and one of them goes.
   const bool answers = WaitFor([this] {
     display_.reset();
     fs::remove(scratch_ / "display.txt");
-    display_ =
-        std::make_unique<Process>(std::vector<std::string>{"Xvfb", "-displayfd", "1", "-screen",
-                                                           "0", "1280x1024x24", "-nolisten", "tcp"},
-                                  scratch_ / "display.txt");
+    display_ = std::make_unique<Process>(
+        std::vector<std::string>{"Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24",
+                                 "-nolisten", "tcp", "-noreset"},
+        scratch_ / "display.txt");
     Set("DISPLAY", ":" + Announced(*display_, "Xvfb", "0123456789"));
     return RunToEnd({"xprop", "-root"}, scratch_ / "root_window.txt") == 0 && display_->Running();
   });
@@ -94,13 +114,18 @@ void Desktop::StartWindowManager() {
   const fs::path output = scratch_ / "window_manager.txt";
   windowManager_ = std::make_unique<Process>(std::vector<std::string>{"openbox"}, output);
   const bool manages = WaitFor([&] {
-    const fs::path answer = scratch_ / "root_window.txt";
-    fs::remove(answer);
-    RunToEnd({"xprop", "-root", "_NET_SUPPORTING_WM_CHECK"}, answer);
-    return ContentOf(answer).find("window id") != std::string::npos || !windowManager_->Running();
+    const std::string answer = Told({"xprop", "-root", "_NET_SUPPORTING_WM_CHECK"});
+    return answer.find("window id") != std::string::npos || !windowManager_->Running();
   });
   if (!manages || !windowManager_->Running())
     throw std::runtime_error("openbox does not start: " + ContentOf(output));
+}
+
+std::string Desktop::Told(const std::vector<std::string>& words) const {
+  const fs::path file = scratch_ / "told.txt";
+  fs::remove(file);
+  RunToEnd(words, file);
+  return ContentOf(file);
 }
 
 std::optional<Widget> Desktop::Find(std::string_view role, std::string_view name) const {
@@ -118,9 +143,15 @@ std::optional<Widget> Desktop::FindDescribed(std::string_view role, std::string_
 }
 
 void Desktop::Click(const Widget& widget) const {
-  RunToEnd({"xdotool", "mousemove", std::to_string(widget.x + widget.width / 2),
-            std::to_string(widget.y + widget.height / 2), "click", "1"},
-           scratch_ / "xdotool.txt");
+  RunToEnd(ClickAt(widget, {"1"}), scratch_ / "xdotool.txt");
+}
+
+void Desktop::DoubleClick(const Widget& widget) const {
+  RunToEnd(ClickAt(widget, {"--repeat", "2", "--delay", "20", "1"}), scratch_ / "xdotool.txt");
+}
+
+void Desktop::Type(const std::string& text) const {
+  RunToEnd({"xdotool", "type", text}, scratch_ / "xdotool.txt");
 }
 
 void Desktop::Press(const std::vector<std::string>& keys) const {
@@ -130,11 +161,27 @@ void Desktop::Press(const std::vector<std::string>& keys) const {
 }
 
 std::string Desktop::ActiveWindow() const {
-  const fs::path file = scratch_ / "active_window.txt";
-  fs::remove(file);
-  RunToEnd({"xdotool", "getactivewindow", "getwindowname"}, file);
-  const std::string title = ContentOf(file);
+  const std::string title = Told({"xdotool", "getactivewindow", "getwindowname"});
   return title.substr(0, title.find('\n'));
+}
+
+std::optional<std::pair<int, int>> Desktop::ActiveCorner() const {
+  const std::string window = Told({"xdotool", "getactivewindow"});
+  const std::string about = Told({"xwininfo", "-id", window.substr(0, window.find('\n'))});
+  const auto x = NumberBehind("Absolute upper-left X:", about);
+  const auto y = NumberBehind("Absolute upper-left Y:", about);
+  if (!x || !y) return std::nullopt;
+  return std::pair(*x, *y);
+}
+
+bool Desktop::IsMinimised(const std::string& title) const {
+  return Told({"xprop", "-name", title, "WM_STATE"}).find("window state: Iconic") !=
+         std::string::npos;
+}
+
+void Desktop::BringToFront(const std::string& title) const {
+  RunToEnd({"xdotool", "search", "--name", "^" + title + "$", "windowactivate"},
+           scratch_ / "xdotool.txt");
 }
 
 void Desktop::MoveActiveWindow(int x, int y) const {

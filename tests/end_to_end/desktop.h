@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "end_to_end/process.h"
@@ -31,10 +32,20 @@ class Desktop {
 
   // The mouse, at the middle of the widget.
   void Click(const Widget& widget) const;
-  // The keyboard: names of keys, one after the other.
+  void DoubleClick(const Widget& widget) const;
+  // The keyboard: a text, or names of keys, one after the other.
+  void Type(const std::string& text) const;
   void Press(const std::vector<std::string>& keys) const;
   // The title of the window in front.
   std::string ActiveWindow() const;
+  // Where the upper left corner of its content really is. Windows that move on the display, as the
+  // window manager makes one come back, tell their place at the end of the way before they are
+  // there.
+  std::optional<std::pair<int, int>> ActiveCorner() const;
+  // Whether there is a window with that title, and it is minimised.
+  bool IsMinimised(const std::string& title) const;
+  // What the list of windows of a desktop does: brings one to the front, minimised or not.
+  void BringToFront(const std::string& title) const;
   // What dragging the title does to the window in front: its corner goes to that place.
   void MoveActiveWindow(int x, int y) const;
 
@@ -46,6 +57,8 @@ class Desktop {
   void StartDisplay();
   void StartBus();
   void StartWindowManager();
+  // What a program prints that runs to its end.
+  std::string Told(const std::vector<std::string>& words) const;
 
   std::filesystem::path scratch_;
   std::unique_ptr<Process> display_;

@@ -110,13 +110,6 @@ class EveryKind : public Stage, public ::testing::WithParamInterface<KindCase> {
     StartTool();
   }
 
-  void ConnectAndRead() {
-    ClickOn("push button", "Verbinden");
-    AwaitText("Edit mode");
-    AwaitOnLine(false, "STOP\\r");
-    Await("push button", "Versturen");
-  }
-
   void PickLetter(char letter) {
     std::optional<Widget> list;
     const bool usable = WaitFor([&] {
@@ -124,23 +117,7 @@ class EveryKind : public Stage, public ::testing::WithParamInterface<KindCase> {
       return list && list->enabled && list->name == std::string(1, letterBefore);
     });
     ASSERT_TRUE(usable) << "the list of letters does not show the module's";
-    // The opened list takes the letter; keys that come before it is open are lost.
-    const bool taken = WaitFor([&] {
-      desktop().Click(*list);
-      desktop().Press({std::string(1, letter), "Return"});
-      if (WaitFor([&] { return LetterShown() == std::string(1, letter); },
-                  std::chrono::seconds(3))) {
-        return true;
-      }
-      desktop().Press({"Escape"});
-      return false;
-    });
-    EXPECT_TRUE(taken) << "the list of letters does not take " << letter;
-  }
-
-  std::string LetterShown() {
-    const auto list = desktop().FindDescribed("combo box", "Adres module:");
-    return list ? list->name : std::string();
+    PickInList("Adres module:", {std::string(1, letter), "Return"}, std::string(1, letter));
   }
 
   // Units of the log that are neither bursts nor polls, from the `count`th command on.

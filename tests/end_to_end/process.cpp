@@ -17,6 +17,8 @@
 namespace end_to_end {
 namespace {
 
+namespace fs = std::filesystem;
+
 constexpr int notThere = 127;
 
 std::vector<char*> Pointers(std::vector<std::string>& words) {
@@ -26,9 +28,16 @@ std::vector<char*> Pointers(std::vector<std::string>& words) {
   return pointers;
 }
 
+std::vector<pid_t> Children() {
+  std::vector<pid_t> children;
+  std::ifstream list("/proc/self/task/" + std::to_string(getpid()) + "/children");
+  for (pid_t child = 0; list >> child;) children.push_back(child);
+  return children;
+}
+
 }  // namespace
 
-Process::Process(const std::vector<std::string>& words, std::filesystem::path output)
+Process::Process(const std::vector<std::string>& words, fs::path output)
     : output_(std::move(output)) {
   std::vector<std::string> copies = words;
   const std::vector<char*> arguments = Pointers(copies);
@@ -43,6 +52,9 @@ Process::Process(const std::vector<std::string>& words, std::filesystem::path ou
     _exit(notThere);
   }
 }
+
+Process::Process(pid_t inherited, fs::path output)
+    : process_(inherited), output_(std::move(output)) {}
 
 Process::~Process() {
   End();
@@ -76,7 +88,7 @@ std::string Process::Output() const {
   return ContentOf(output_);
 }
 
-int RunToEnd(const std::vector<std::string>& words, const std::filesystem::path& output) {
+int RunToEnd(const std::vector<std::string>& words, const fs::path& output) {
   return Process(words, output).AwaitEnd().value_or(notThere);
 }
 
@@ -92,12 +104,22 @@ void InheritOrphans() {
 void EndInherited() {
   // An ended process may leave further ones, until there are none.
   WaitFor([] {
-    std::ifstream children("/proc/self/task/" + std::to_string(getpid()) + "/children");
-    for (pid_t child = 0; children >> child;) kill(child, SIGKILL);
+    for (const pid_t child : Children()) kill(child, SIGKILL);
     while (waitpid(-1, nullptr, WNOHANG) > 0) {
     }
     return waitpid(-1, nullptr, WNOHANG) < 0 && errno == ECHILD;
   });
+}
+
+std::vector<pid_t> Inherited(const fs::path& program) {
+  std::vector<pid_t> found;
+  for (const pid_t child : Children()) {
+    std::error_code gone;
+    if (fs::equivalent("/proc/" + std::to_string(child) + "/exe", program, gone)) {
+      found.push_back(child);
+    }
+  }
+  return found;
 }
 
 }  // namespace end_to_end

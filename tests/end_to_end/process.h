@@ -16,6 +16,8 @@ class Process {
   // the file `output`. Throws std::runtime_error when no process can be made; a program that is not
   // there ends with status 127.
   Process(const std::vector<std::string>& words, std::filesystem::path output);
+  // One that is there already, a child of the test: see InheritOrphans.
+  Process(pid_t inherited, std::filesystem::path output);
   // Ends it, kindly first.
   ~Process();
   Process(const Process&) = delete;
@@ -49,5 +51,7 @@ std::string ContentOf(const std::filesystem::path& path);
 // inherit them, and EndInherited ends them.
 void InheritOrphans();
 void EndInherited();
+// The children of the test, inherited or not, that run this program.
+std::vector<pid_t> Inherited(const std::filesystem::path& program);
 
 }  // namespace end_to_end

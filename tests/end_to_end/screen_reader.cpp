@@ -119,6 +119,13 @@ class Questions {
   QDBusPendingCall children_;
 };
 
+std::string ContentOf(const QDBusConnection& bus, const Place& field) {
+  QDBusPendingCall call =
+      Ask(bus, field, QStringLiteral("org.a11y.atspi.Text"), QStringLiteral("GetText"),
+          {QVariant::fromValue<qint32>(0), QVariant::fromValue<qint32>(-1)});
+  return Answer(call).toString().toStdString();
+}
+
 std::vector<Questions> AskAll(const QDBusConnection& bus, const std::vector<Place>& places) {
   std::vector<Questions> questions;
   for (const Place& place : places) questions.emplace_back(bus, place);
@@ -172,12 +179,13 @@ std::vector<Widget> ScreenReader::Widgets() const {
   while (!level.empty()) {
     std::vector<Questions> shown;
     std::vector<Questions> asked = AskAll(bus_, level);
-    for (Questions& questions : asked) {
-      const std::optional<Widget> widget = questions.Answers();
+    for (std::size_t i = 0; i < level.size(); ++i) {
+      std::optional<Widget> widget = asked[i].Answers();
       if (!widget) continue;
+      if (widget->role == "text") widget->content = ContentOf(bus_, level[i]);
       widgets.push_back(*widget);
       // Items of a closed list are widgets too, and many.
-      if (widget->role != "combo box") shown.push_back(questions);
+      if (widget->role != "combo box") shown.push_back(asked[i]);
     }
     level = ChildrenOf(shown);
   }

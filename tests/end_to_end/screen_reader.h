@@ -13,6 +13,7 @@ struct Widget {
   std::string role;         // "push button", "combo box", "label", ...
   std::string name;         // what is read out; of a combo box the item that it shows
   std::string description;  // of a combo box the label in front of it
+  std::string content;      // of a text field what stands in it
   int x = 0;                // on the display
   int y = 0;
   int width = 0;

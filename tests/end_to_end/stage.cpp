@@ -57,9 +57,10 @@ void Stage::KeepTraces() {
                 << "\nthe tool printed: " << ContentOf(scratch_ / "tool.txt");
 }
 
-void Stage::LayOutDirectory() {
-  ASSERT_EQ(RunToEnd({SETUP_PROGRAM, "--directory", directory().string(), "--language", "1",
-                      "--port", "1"},
+void Stage::LayOutDirectory(const Captions& captions) {
+  captions_ = &captions;
+  ASSERT_EQ(RunToEnd({SETUP_PROGRAM, "--directory", directory().string(), "--language",
+                      std::to_string(captions.language), "--port", "1"},
                      scratch_ / "setup.txt"),
             0);
 }
@@ -86,12 +87,21 @@ void Stage::LaunchTool() {
 
 void Stage::StartTool() {
   LaunchTool();
-  // The window manager places the window after the tool has made it, and what is clicked must stand
-  // still.
-  EXPECT_TRUE(WaitFor([this] {
-    return desktop().ActiveWindow() == "TREVAN BK-CONF" || !tool().Running();
-  })) << "the window never comes to the front";
-  Await("push button", "Verbinden");
+  AwaitWindow("TREVAN BK-CONF");
+  Await("push button", captions().connect);
+}
+
+void Stage::FollowTool() {
+  const std::optional<int> status = tool().AwaitEnd();
+  ASSERT_TRUE(status) << "the tool goes on";
+  EXPECT_EQ(*status, 0) << tool().Output();
+  std::vector<pid_t> copies;
+  WaitFor([&] {
+    copies = Inherited(TOOL_PROGRAM);
+    return !copies.empty();
+  });
+  ASSERT_EQ(copies.size(), 1U) << "copies of the tool";
+  tool_ = std::make_unique<Process>(copies.front(), scratch_ / "tool.txt");
 }
 
 Widget Stage::Await(std::string_view role, std::string_view name, bool enabled) {
@@ -107,10 +117,107 @@ Widget Stage::Await(std::string_view role, std::string_view name, bool enabled) 
   return *found;
 }
 
+Widget Stage::AwaitStill(std::string_view role, std::string_view name) {
+  Widget widget = Await(role, name);
+  const bool still = WaitFor([&] {
+    const Widget before = widget;
+    widget = Await(role, name);
+    return widget.x == before.x && widget.y == before.y && widget.width == before.width &&
+           widget.height == before.height;
+  });
+  EXPECT_TRUE(still) << role << " \"" << name << "\" never stands still";
+  return widget;
+}
+
+void Stage::AwaitGone(std::string_view role, std::string_view name) {
+  EXPECT_TRUE(WaitFor([&] { return !desktop().Find(role, name); }))
+      << role << " \"" << name << "\" stays";
+}
+
+void Stage::AwaitWindow(std::string_view title) {
+  const auto stands = [&] {
+    if (desktop().ActiveWindow() != title) return false;
+    const auto window = desktop().Find("frame", title);
+    return window && desktop().ActiveCorner() == std::pair(window->x, window->y);
+  };
+  EXPECT_TRUE(WaitFor([&] { return stands() || !tool().Running(); }))
+      << "the window \"" << title << "\" never comes to the front; there is \""
+      << desktop().ActiveWindow() << "\"";
+}
+
+void Stage::ClickOnEntry(std::string_view menu, std::string_view entry) {
+  ClickOn("menu item", menu);
+  Await("popup menu", menu);
+  ClickOn("menu item", entry);
+  AwaitGone("popup menu", menu);
+}
+
+bool Stage::IsEntryEnabled(std::string_view menu, std::string_view entry) {
+  ClickOn("menu item", menu);
+  Await("popup menu", menu);
+  const bool enabled = IsEnabled("menu item", entry);
+  desktop().Press({"Escape"});
+  AwaitGone("popup menu", menu);
+  return enabled;
+}
+
+void Stage::LeaveScreen(std::string_view title) {
+  const bool left = WaitFor([&] {
+    desktop().Press({"Escape"});
+    return WaitFor([&] { return !desktop().Find("frame", title); }, std::chrono::seconds(3));
+  });
+  EXPECT_TRUE(left) << "the screen \"" << title << "\" stays";
+}
+
+void Stage::PickInList(std::string_view label, const std::vector<std::string>& keys,
+                       std::string_view item) {
+  const auto shown = [&] {
+    const auto list = desktop().FindDescribed("combo box", label);
+    return list && list->name == item;
+  };
+  // Keys that come before the list is open are lost.
+  const bool taken = WaitFor([&] {
+    const auto list = desktop().FindDescribed("combo box", label);
+    if (!list || !list->enabled) return false;
+    desktop().Click(*list);
+    desktop().Press(keys);
+    if (WaitFor(shown, std::chrono::seconds(3))) return true;
+    desktop().Press({"Escape"});
+    return false;
+  });
+  EXPECT_TRUE(taken) << "the list \"" << label << "\" does not take " << item;
+}
+
 bool Stage::IsEnabled(std::string_view role, std::string_view name) {
   const std::optional<Widget> found = desktop().Find(role, name);
   EXPECT_TRUE(found) << "no " << role << " \"" << name << "\"";
   return found && found->enabled;
+}
+
+std::vector<std::string> Stage::Shown() const {
+  std::vector<std::string> shown;
+  for (const Widget& widget : desktop_->Widgets()) {
+    shown.push_back(widget.role + "|" + widget.name + "|" + widget.description + "|" +
+                    widget.content + "|" + (widget.enabled ? "enabled" : "disabled"));
+  }
+  return shown;
+}
+
+void Stage::AwaitShown(const std::vector<std::string>& widgets) {
+  if (!WaitFor([&] { return Shown() == widgets; })) {
+    EXPECT_EQ(Shown(), widgets);
+  }
+}
+
+void Stage::ConnectAndRead() {
+  ClickOn("push button", captions().connect);
+  AwaitText("Edit mode");
+  AwaitOnLine(false, "STOP\\r");
+  Await("push button", captions().send);
+}
+
+fs::path Stage::DemoFile(const std::string& name) {
+  return fs::path(DEMO_DIRECTORY) / name;
 }
 
 std::vector<LogUnit> Stage::Log() const {

@@ -1,0 +1,101 @@
+// What a person reads on the tool's windows, in both languages. Tests that run in both look their
+// buttons, entries and labels up here.
+#pragma once
+
+#include <ostream>
+#include <string>
+
+namespace end_to_end {
+
+struct Captions {
+  int language;  // the number of the settings: 1 Dutch, 2 French
+  const char* languageName;
+
+  // Main window
+  const char* connect;
+  const char* send;
+  const char* action;
+  const char* moduleData;
+  const char* address;
+  const char* moreInfo;
+  const char* closeManual;
+  const char* diagnostics;
+  const char* incomplete;
+
+  // Menus
+  const char* fileMenu;
+  const char* newEntry;
+  const char* openEntry;
+  const char* saveEntry;
+  const char* saveAsEntry;
+
+  // File screens
+  const char* openTitle;
+  const char* openButton;
+  const char* lookIn;
+  const char* files;
+  const char* saveTitle;
+  const char* saveButton;
+  const char* fileName;
+
+  // Errors
+  const char* fileTooShort;
+  const char* place;
+  const char* line;
+};
+
+inline constexpr Captions dutch = {.language = 1,
+                                   .languageName = "Dutch",
+                                   .connect = "Verbinden",
+                                   .send = "Versturen",
+                                   .action = "Actie:",
+                                   .moduleData = "Module gegevens:",
+                                   .address = "Adres module:",
+                                   .moreInfo = "Meer info...",
+                                   .closeManual = "Sluiten",
+                                   .diagnostics = "Diagnose",
+                                   .incomplete = "Niet alles ingeladen!",
+                                   .fileMenu = "Bestand",
+                                   .newEntry = "Nieuwe module",
+                                   .openEntry = "Module Openen ...",
+                                   .saveEntry = "Module Opslaan",
+                                   .saveAsEntry = "Module Opslaan als ...",
+                                   .openTitle = "Openen",
+                                   .openButton = "Openen",
+                                   .lookIn = "Zoeken in:",
+                                   .files = "Bestanden:",
+                                   .saveTitle = "Opslaan",
+                                   .saveButton = "Bewaren",
+                                   .fileName = "Bestandsnaam",
+                                   .fileTooShort = "Het bestand is te kort voor deze module.",
+                                   .place = "Plaats: ",
+                                   .line = "regel "};
+
+inline constexpr Captions french = {.language = 2,
+                                    .languageName = "French",
+                                    .connect = "Connecter",
+                                    .send = "Envoyer",
+                                    .action = "Action:",
+                                    .moduleData = "Données module:",
+                                    .address = "Adresse module:",
+                                    .moreInfo = "Plus de données...",
+                                    .closeManual = "Fermer",
+                                    .diagnostics = "Diagnostics",
+                                    .incomplete = "Chargement incomplet!",
+                                    .fileMenu = "Fichier",
+                                    .newEntry = "Nouveau module",
+                                    .openEntry = "Ouvrir module ...",
+                                    .saveEntry = "Sauver module",
+                                    .saveAsEntry = "Sauver module dans ...",
+                                    .openTitle = "Ouvrir",
+                                    .openButton = "Ouvrir",
+                                    .lookIn = "Ouvrir dans:",
+                                    .files = "Fichiers:",
+                                    .saveTitle = "Sauver",
+                                    .saveButton = "Sauver",
+                                    .fileName = "Nom fichier",
+                                    .fileTooShort = "Le fichier est trop court pour ce module.",
+                                    .place = "Endroit : ",
+                                    .line = "ligne "};
+
+}  // namespace end_to_end
