@@ -7,6 +7,7 @@
 #include <chrono>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <random>
 #include <string>
 #include <thread>
@@ -49,7 +50,12 @@ void KillOnce(const std::string& path, const std::string& one, const std::string
   if (saver == 0) SaveForEver(path, one, other);
   std::this_thread::sleep_for(moment);
   kill(saver, SIGKILL);
-  waitpid(saver, nullptr, 0);
+  int status = 0;
+  waitpid(saver, &status, 0);
+  if (!WIFSIGNALED(status) || WTERMSIG(status) != SIGKILL) {
+    std::fprintf(stderr, "killed_saves: nothing was saved\n");
+    std::exit(1);
+  }
   const std::string found = DiskFiles().Load(path);
   ++(found == one ? tally.one : found == other ? tally.other : tally.torn);
 }

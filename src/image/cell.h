@@ -33,8 +33,8 @@ class Cell {
   int Whole() const;
   /// The string as it stands, or the plain decimal text of the number, or "".
   std::string Text() const;
-  /// The line of a configuration file, without its line end: a number has a blank (or its sign) in
-  /// front and a blank behind, a string stands as it is, and nothing is an empty line.
+  /// What a line of a settings or configuration file holds, in UTF-8: a number has a blank (or its
+  /// sign) in front and a blank behind, a string stands as it is, and nothing is an empty line.
   std::string PrintForm() const;
   /// Puts that line behind what stands in `text`.
   void AppendPrintForm(std::string& text) const;

@@ -66,7 +66,8 @@ inline constexpr auto FileLayouts = std::to_array<FileLayout>({
 std::span<const FileBlock> BlocksOf(const Cell& type);
 
 /// The whole file of the image in the tables: lines that end in CR LF, Windows-1252. Prints any
-/// cell that there can be; a comma in a text is not marked, so that it parts two values on reading.
+/// cell that there can be; a comma or a line end in a text is not marked, so that it parts two
+/// values on reading.
 std::string PrintConfiguration(const Cell& type);
 
 /// Reads a whole file into the tables of its type, and gives the type. Lines end in CR LF or LF,

@@ -52,11 +52,12 @@ void SetUp(const ModuleKind& kind) {
   }
 }
 
-/// An image in memory takes a module of its own kind only; without one, any. What a file put there
-/// as a text is no kind, and fits nothing.
+/// An image in memory takes a module of its own kind only; without one, a read takes any. What a
+/// file put there as a text is no kind, and fits nothing.
 bool Fits(const ModuleKind& kind) {
-  return ActiveModuleType.IsNumber() &&
-         (ActiveModuleType.Number() == NoModule || ActiveModuleType.Number() == kind.code);
+  if (!ActiveModuleType.IsNumber()) return false;
+  const bool takesAny = ActiveModuleType.Number() == NoModule && !SentByUser();
+  return takesAny || ActiveModuleType.Number() == kind.code;
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cerrno>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <system_error>
@@ -32,15 +33,22 @@ Reason LastReason() {
 
 Reason WhyNotRegular(const fs::path& path, std::error_code& error) {
   const fs::file_status status = fs::status(path, error);
+  if (status.type() == fs::file_type::not_found) {
+    error = std::make_error_code(std::errc::no_such_file_or_directory);
+  }
   if (error || fs::is_regular_file(status)) return error ? error.message() : "";
   if (fs::is_directory(status)) return ReasonOf(std::errc::is_a_directory);
   return "Not a regular file";
 }
 
+/// Far beyond every file of the tool, and well within the memory of a computer.
+constexpr std::uintmax_t LargestFile = 256'000'000;
+
 Reason ReadWhole(const std::string& path, std::string& content) {
   const fs::path name = fs::u8path(path);
   std::error_code error;
   if (Reason reason = WhyNotRegular(name, error); !reason.empty()) return reason;
+  if (fs::file_size(name, error) > LargestFile) return ReasonOf(std::errc::file_too_large);
   errno = 0;
   std::ifstream file(name, std::ios::binary);
   if (!file) return LastReason();
@@ -100,12 +108,13 @@ bool WriteAll(int file, std::string_view content) {
   return true;
 }
 
-/// Gives a new file the permissions of the old one, and its owner where the user may do that.
-bool MakeLike(int file, const struct stat& old) {
+/// Gives a new file the permissions of the old one, and its owner where the user may do that. Not
+/// every file system keeps such things; the content counts.
+void MakeLike(int file, const struct stat& old) {
   // Only an administrator may give files away; to a group of his own, any user.
-  [[maybe_unused]] const bool given = fchown(file, old.st_uid, old.st_gid) == 0 ||
-                                      fchown(file, static_cast<uid_t>(-1), old.st_gid) == 0;
-  return fchmod(file, old.st_mode & 07777) == 0;
+  [[maybe_unused]] bool kept = fchown(file, old.st_uid, old.st_gid) == 0 ||
+                               fchown(file, static_cast<uid_t>(-1), old.st_gid) == 0;
+  kept = fchmod(file, old.st_mode & 0777) == 0;
 }
 
 /// Makes a file with this content that survives a crash of the machine, not only of the program.
@@ -116,8 +125,8 @@ Reason WriteBeside(const fs::path& beside, const fs::path& path, std::string_vie
   unlink(beside.c_str());
   const Descriptor file(beside, O_WRONLY | O_CREAT | O_EXCL, 0666);
   if (!file.IsOpen()) return LastReason();
-  if ((replaces && !MakeLike(file.Number(), old)) || !WriteAll(file.Number(), content) ||
-      fsync(file.Number()) != 0) {
+  if (replaces) MakeLike(file.Number(), old);
+  if (!WriteAll(file.Number(), content) || fsync(file.Number()) != 0) {
     Reason reason = LastReason();
     unlink(beside.c_str());
     return reason;

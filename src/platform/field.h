@@ -9,6 +9,7 @@
 
 namespace bkconf {
 
+struct ButtonField;
 struct Screen;
 
 /// Which view a field gets.
@@ -53,7 +54,8 @@ struct TextField : Field {
   TextField(Screen& screen, std::string_view fieldName)
       : Field(screen, FieldKind::Text, fieldName) {}
 
-  std::function<void()> onChange;  ///< runs after the user changed the text, on every character
+  std::function<void()> onChange;      ///< runs after the user changed the text, on every character
+  const ButtonField* enter = nullptr;  ///< what Enter presses in it, in place of the screen's
 
   const std::string& Text() const { return text_; }
   /// Shows a text without running the handler.
@@ -215,6 +217,7 @@ struct Screen {
   /// What closing the window does; without a handler the screen is just not shown any more.
   std::function<void()> onClose;
   const ButtonField* enter = nullptr;  ///< what Enter presses while no button has the focus
+  const Field* firstFocus = nullptr;  ///< where the keyboard is on opening; else in the first field
 
   void Close();
 

@@ -9,10 +9,17 @@
 
 namespace bkconf {
 
+/// The values of `Language`.
+inline constexpr int Dutch = 1;
+inline constexpr int French = 2;
+
+/// Between what something is called and what stands behind it, in titles and entries.
+inline constexpr std::string_view TitleSeparator = "  -  ";
+
 /// The text in the language of this moment; empty while `Language` is neither 1 nor 2.
 inline std::string_view Text(TextId id) {
-  if (Language.Number() == 1) return TextOf(id).dutch;
-  if (Language.Number() == 2) return TextOf(id).french;
+  if (Language.Number() == Dutch) return TextOf(id).dutch;
+  if (Language.Number() == French) return TextOf(id).french;
   return {};
 }
 
@@ -21,7 +28,7 @@ inline std::string_view Text(TextId id) {
 inline void Show(std::string& caption, TextId id) {
   if (TextOf(id).sameOnPurpose) {
     caption = TextOf(id).dutch;
-  } else if (Language.Number() == 1 || Language.Number() == 2) {
+  } else if (Language.Number() == Dutch || Language.Number() == French) {
     caption = Text(id);
   }
 }

@@ -1,4 +1,5 @@
-// What Connect and New set back, as data. The main window walks these rows.
+// What Connect and New set back, and what opening a file sets, as data. The main window and the
+// file menu walk these rows.
 #pragma once
 
 #include <span>

@@ -56,8 +56,9 @@ void StoreLanguage() {
   FileSystem->Write(SettingsPath("country.vdm"), Language.PrintForm() + "\r\n");
 }
 
-void StoreDirectory() {
-  FileSystem->Write(SettingsPath("directory.vdm"), DefaultDirectory.Text() + "\r\n");
+void StoreDirectory(const std::string& path) {
+  FileSystem->Write(SettingsPath("directory.vdm"), path + "\r\n");
+  DefaultDirectory = path;
 }
 
 void StorePortNumber() {

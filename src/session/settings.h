@@ -41,8 +41,9 @@ bool ReadSetting(const Setting& setting);
 
 /// Overwrites "country.vdm" with the language, printed like a number of a configuration file.
 void StoreLanguage();
-/// Overwrites "directory.vdm" with the path as it stands.
-void StoreDirectory();
+/// Overwrites "directory.vdm" with the path as it stands, and makes it the `DefaultDirectory` once
+/// it is stored.
+void StoreDirectory(const std::string& path);
 /// Overwrites "port.vdm" with the bare digit.
 void StorePortNumber();
 

@@ -1,12 +1,12 @@
 #include "shell/directory_lists.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <utility>
 #include <vector>
 
 #include "platform/machine.h"
 #include "platform/runtime_error.h"
-#include "session/settings.h"
 
 namespace bkconf {
 namespace {
@@ -31,6 +31,10 @@ std::string Trimmed(const std::string& path) {
 
 std::string Above(const std::string& path) {
   return Utf8(fs::u8path(path).parent_path());
+}
+
+std::string NameOf(const std::string& path) {
+  return Utf8(fs::u8path(path).filename());
 }
 
 bool IsRoot(const std::string& path) {
@@ -59,17 +63,29 @@ DirectoryLists::DirectoryLists(ListField& drives, ListBoxField& directories)
 }
 
 void DirectoryLists::GoTo(const std::string& path) {
-  const std::string target = Trimmed(path);
-  std::vector<std::string> items = DirectorySystem->FoldersIn(target);
-  if (!IsRoot(target)) items.insert(items.begin(), std::string(Upwards));
-  path_ = target;
+  Enter(Trimmed(path), "");
+}
+
+/// A hidden folder that the walk has just left is listed, so that there is a way back.
+void DirectoryLists::Enter(const std::string& path, const std::string& hiddenFolder) {
+  std::vector<std::string> items = DirectorySystem->FoldersIn(path);
+  if (!hiddenFolder.empty() && std::find(items.begin(), items.end(), hiddenFolder) == items.end()) {
+    items.insert(items.begin(), hiddenFolder);
+  }
+  if (!IsRoot(path)) items.insert(items.begin(), std::string(Upwards));
+  const std::string before = std::exchange(path_, path);
+  try {
+    if (onChange) onChange();
+  } catch (const RuntimeError&) {
+    path_ = before;
+    throw;
+  }
   directories_.SetItems(std::move(items));
   ShowDrive();
-  if (onChange) onChange();
 }
 
 bool DirectoryLists::CanGoTo(const std::string& path) {
-  if (path.empty()) return false;
+  if (!fs::u8path(path).is_absolute()) return false;
   try {
     GoTo(path);
   } catch (const RuntimeError&) {
@@ -100,11 +116,11 @@ void DirectoryLists::PickDrive() {
 
 void DirectoryLists::OpenDirectory() {
   const std::string name = directories_.Text();
-  GoTo(name == Upwards ? Above(path_) : Within(path_, name));
-}
-
-void GoToStart(DirectoryLists& lists) {
-  if (!lists.CanGoTo(DefaultDirectory.Text())) lists.GoTo(SettingsDirectory);
+  if (name == Upwards) {
+    Enter(Above(path_), NameOf(path_));
+  } else {
+    Enter(Within(path_, name), "");
+  }
 }
 
 }  // namespace bkconf

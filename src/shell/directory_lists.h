@@ -27,14 +27,16 @@ class DirectoryLists {
   /// one.
   const std::string& Path() const { return path_; }
 
-  /// Moves to a directory. Throws RuntimeError (DirectoryNotRead) and stays where it was then.
+  /// Moves to a directory, by its absolute path. Throws RuntimeError (DirectoryNotRead) and stays
+  /// where it was then.
   void GoTo(const std::string& path);
-  /// The same, told by false.
+  /// The same, told by false; a path that is not absolute is none.
   bool CanGoTo(const std::string& path);
   /// Looks at the directory again.
   void Refresh() { GoTo(path_); }
 
  private:
+  void Enter(const std::string& path, const std::string& hiddenFolder);
   void PickDrive();
   void OpenDirectory();
   void ShowDrive();
@@ -43,9 +45,5 @@ class DirectoryLists {
   ListBoxField& directories_;
   std::string path_;
 };
-
-/// Where `OpenDialog` and `SaveDialog` start: in `DefaultDirectory`, and where that is empty or
-/// gone in the settings directory. Neither stores anything.
-void GoToStart(DirectoryLists& lists);
 
 }  // namespace bkconf

@@ -23,9 +23,8 @@ DirectoryPickerScreen::DirectoryPickerScreen()
 namespace {
 
 void StoreChoice(const std::string& directory) {
-  DefaultDirectory = directory;
+  StoreDirectory(directory);
   DirectoryScreen.directory.caption = directory;
-  StoreDirectory();
 }
 
 /// A directory that is gone, or none, is repaired at once: the file says so even when the picker is

@@ -382,10 +382,18 @@ void ShowNoModule() {
 
 }  // namespace
 
+void ShowSomeDataGroup() {
+  if (const ModuleKind* kind = ActiveKind()) return ShowDataGroup(kind->group);
+  const bool shown = std::any_of(DataGroups.begin(), DataGroups.end(), [](DataGroup group) {
+    return MainWindow.Group(group).frame.visible;
+  });
+  if (!shown) ShowDataGroup(DataGroup::General);
+}
+
 void ShowTitle(const std::string& path) {
   Show(MainWindow.title, TextId::WindowTitle);
   if (path.empty()) return;
-  MainWindow.title += std::string(TextOf(TextId::TitleSeparator).dutch) + path;
+  MainWindow.title += std::string(TitleSeparator) + path;
 }
 
 void ShowImage(Origin origin) {
@@ -414,7 +422,6 @@ void LoadMainWindow() {
   LoadDirectoryPicker();
   ShowNoModule();
   MainWindow.onClose = [] { OtherPrograms->End(); };
-  MainWindow.enter = &MainWindow.connect;
   MainWindow.shown = true;
   UpgradeHandOff.Enable();
 }

@@ -80,6 +80,10 @@ enum class Origin { Read, File };
 /// all of them usable. A kind that is unknown leaves what is shown, with nothing to edit.
 void ShowImage(Origin origin);
 
+/// Shows the module data group of the kind in memory; without a kind the general one, unless one is
+/// shown already.
+void ShowSomeDataGroup();
+
 /// The program's name, and behind it the path of a file unless it is empty.
 void ShowTitle(const std::string& path);
 

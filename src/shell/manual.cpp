@@ -22,7 +22,7 @@ std::array<HiddenGroup, 4> HiddenGroups() {
 }
 
 std::string_view FileOf(const Manual& manual) {
-  return Language.Number() == 2 ? manual.french : manual.dutch;
+  return Language.Number() == French ? manual.french : manual.dutch;
 }
 
 void ShowManualView(bool shown) {

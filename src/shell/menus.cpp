@@ -17,9 +17,6 @@
 namespace bkconf {
 namespace {
 
-constexpr int Dutch = 1;
-constexpr int French = 2;
-
 /// The maker's page, from the build's settings.
 constexpr std::string_view WebAddress = BKCONF_WEB_ADDRESS;
 
@@ -43,13 +40,20 @@ void ShowPortNumbers() {
   }
 }
 
+/// In a menu an ampersand marks the letter behind it, unless there are two.
+std::string Plain(std::string_view text) {
+  std::string plain;
+  for (const char character : text) plain.append(character == '&' ? 2 : 1, character);
+  return plain;
+}
+
 /// The device behind each number, which changes when an adapter is plugged or pulled. A look at the
 /// machine's ports takes its time, so it waits until somebody opens the menu.
 void ShowDevices() {
   ShowPortNumbers();
   for (int number = 1; MenuField * entry : PortEntries()) {
     const std::string device = Port->DeviceOf(number);
-    if (!device.empty()) entry->caption += "  -  " + device;
+    if (!device.empty()) entry->caption += std::string(TitleSeparator) + Plain(device);
     ++number;
   }
 }
@@ -113,7 +117,7 @@ void FillMenus() {
   MainWindow.Bewaren.onClick = SaveModule;
   MainWindow.Bewaren_als.onClick = ShowSaveDialog;
   MainWindow.instellingen.onClick = ShowDirectoryScreen;
-  MainWindow.Web.caption = WebAddress;
+  MainWindow.Web.caption = Plain(WebAddress);
   MainWindow.Web.onClick = [] { OtherPrograms->ShowWebPage(std::string(WebAddress)); };
   MainWindow.Einde.onClick = [] { OtherPrograms->End(); };
   MainWindow.ned.checkable = MainWindow.frans.checkable = true;
@@ -156,8 +160,7 @@ void HandOverOnRequest() {
   MainWindow.upgrade.enabled = false;
   MainWindow.moduleList.visible = true;
   MainWindow.actionGroup.visible = true;
-  const ModuleKind* kind = ActiveKind();
-  MainWindow.Group(kind == nullptr ? DataGroup::General : kind->group).frame.visible = true;
+  ShowSomeDataGroup();
   MainWindow.pictureGroup.visible = !MainWindow.moduleList.Text().empty();
   if (!HandOver()) FileSystem->Write(SettingsPath("upgrade.vdm"), "0\r\n");
 }

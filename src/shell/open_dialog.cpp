@@ -1,7 +1,5 @@
 #include "shell/open_dialog.h"
 
-#include "image/configuration_file.h"
-#include "platform/machine.h"
 #include "session/language.h"
 #include "session/settings.h"
 #include "shell/module_file.h"
@@ -9,26 +7,12 @@
 namespace bkconf {
 
 OpenDialogScreen::OpenDialogScreen()
-    : Screen("OpenDialog"),
-      directoryLabel(*this, "directoryLabel"),
-      driveLabel(*this, "driveLabel"),
-      drives(*this, "drives"),
-      directories(*this, "directories"),
-      path(*this, "path"),
-      filesLabel(*this, "filesLabel"),
-      files(*this, "files"),
-      open(*this, "open"),
-      defaultDirectory(*this, "defaultDirectory"),
-      lists(drives, directories) {
+    : FileScreen("OpenDialog"), open(*this, "open"), defaultDirectory(*this, "defaultDirectory") {
   enter = &open;
+  firstFocus = &files;
 }
 
 namespace {
-
-void ShowDirectory() {
-  OpenDialog.files.SetItems(DirectorySystem->FilesIn(OpenDialog.lists.Path(), FileExtension));
-  OpenDialog.path.caption = OpenDialog.lists.Path();
-}
 
 std::string PickedPath() {
   return Joined(OpenDialog.lists.Path(), OpenDialog.files.Text());
@@ -43,13 +27,9 @@ void OpenPicked() {
 }  // namespace
 
 void LoadOpenDialog() {
-  Show(OpenDialog.title, TextId::OpenTitle);
-  Show(OpenDialog.directoryLabel.caption, TextId::LookIn);
-  Show(OpenDialog.driveLabel.caption, TextId::DriveLabel);
-  Show(OpenDialog.filesLabel.caption, TextId::FilesLabel);
+  OpenDialog.LoadLists(TextId::OpenTitle, TextId::LookIn);
   Show(OpenDialog.open.caption, TextId::OpenButton);
   Show(OpenDialog.defaultDirectory.caption, TextId::DefaultDirectoryButton);
-  OpenDialog.lists.onChange = ShowDirectory;
   OpenDialog.files.onPick = [] { OpenDialog.path.caption = PickedPath(); };
   OpenDialog.files.onOpen = OpenPicked;
   OpenDialog.open.onClick = OpenPicked;
@@ -57,7 +37,7 @@ void LoadOpenDialog() {
 }
 
 void ShowOpenDialog() {
-  GoToStart(OpenDialog.lists);
+  OpenDialog.GoToStart();
   OpenDialog.shown = true;
 }
 

@@ -1,25 +1,15 @@
 // The screen that chooses a configuration file to open.
 #pragma once
 
-#include "platform/field.h"
-#include "shell/directory_lists.h"
+#include "shell/file_screen.h"
 
 namespace bkconf {
 
-struct OpenDialogScreen : Screen {
+struct OpenDialogScreen : FileScreen {
   OpenDialogScreen();
 
-  LabelField directoryLabel;
-  LabelField driveLabel;
-  ListField drives;
-  ListBoxField directories;
-  LabelField path;  ///< the directory, and the file in it that is picked
-  LabelField filesLabel;
-  ListBoxField files;
   ButtonField open;
   ButtonField defaultDirectory;
-
-  DirectoryLists lists;
 };
 
 inline OpenDialogScreen OpenDialog;

@@ -1,6 +1,5 @@
 #include "shell/save_dialog.h"
 
-#include "image/configuration_file.h"
 #include "platform/machine.h"
 #include "session/language.h"
 #include "shell/module_file.h"
@@ -8,28 +7,19 @@
 namespace bkconf {
 
 SaveDialogScreen::SaveDialogScreen()
-    : Screen("SaveDialog"),
-      directoryLabel(*this, "directoryLabel"),
-      driveLabel(*this, "driveLabel"),
-      drives(*this, "drives"),
-      directories(*this, "directories"),
-      path(*this, "path"),
-      filesLabel(*this, "filesLabel"),
-      files(*this, "files"),
+    : FileScreen("SaveDialog"),
       fileNameLabel(*this, "fileNameLabel"),
       fileName(*this, "fileName"),
       save(*this, "save"),
       newFolder(*this, "newFolder"),
       folderName(*this, "folderName"),
-      makeFolder(*this, "makeFolder"),
-      lists(drives, directories) {}
+      makeFolder(*this, "makeFolder") {
+  enter = &save;
+  firstFocus = &fileName;
+  folderName.enter = &makeFolder;
+}
 
 namespace {
-
-void ShowDirectory() {
-  SaveDialog.files.SetItems(DirectorySystem->FilesIn(SaveDialog.lists.Path(), FileExtension));
-  SaveDialog.path.caption = SaveDialog.lists.Path();
-}
 
 void ProposeName() {
   const std::string name = ProposedName();
@@ -45,7 +35,6 @@ void Save() {
 void AskFolderName() {
   SaveDialog.folderName.visible = true;
   SaveDialog.newFolder.visible = false;
-  SaveDialog.enter = &SaveDialog.makeFolder;
 }
 
 void ShowNoFolderName() {
@@ -54,11 +43,10 @@ void ShowNoFolderName() {
   SaveDialog.newFolder.visible = true;
   SaveDialog.folderName.Show("");
   SaveDialog.folderName.visible = false;
-  SaveDialog.enter = &SaveDialog.save;
 }
 
-/// A folder that cannot be made is tried again and again, with the name that stands there then: the
-/// user mends the name, or what is in the way.
+/// A folder that cannot be made is tried again and again, in case that what is in the way goes. A
+/// change of the name ends that: half of it would be made otherwise while the rest is typed.
 void MakeFolder() {
   if (!DirectorySystem->Make(Joined(SaveDialog.lists.Path(), SaveDialog.folderName.Text()))) {
     if (!FolderRetry.Enabled()) FolderRetry.Enable();
@@ -73,21 +61,21 @@ void MakeFolder() {
 Tick FolderRetry{"FolderRetry", 100, MakeFolder};
 
 void LoadSaveDialog() {
-  Show(SaveDialog.title, TextId::SaveTitle);
-  Show(SaveDialog.directoryLabel.caption, TextId::SaveIn);
-  Show(SaveDialog.driveLabel.caption, TextId::DriveLabel);
-  Show(SaveDialog.filesLabel.caption, TextId::FilesLabel);
+  SaveDialog.LoadLists(TextId::SaveTitle, TextId::SaveIn);
   Show(SaveDialog.fileNameLabel.caption, TextId::FileName);
   Show(SaveDialog.fileNameLabel.toolTip, TextId::FileNameHint);
   Show(SaveDialog.save.caption, TextId::SaveButton);
   Show(SaveDialog.newFolder.caption, TextId::NewFolder);
   Show(SaveDialog.makeFolder.caption, TextId::MakeFolder);
-  SaveDialog.lists.onChange = ShowDirectory;
   SaveDialog.files.onPick = [] { SaveDialog.fileName.Show(SaveDialog.files.Text()); };
   SaveDialog.fileNameLabel.onDoubleClick = ProposeName;
   SaveDialog.save.onClick = Save;
   SaveDialog.newFolder.onClick = AskFolderName;
-  SaveDialog.folderName.onChange = [] { SaveDialog.makeFolder.enabled = true; };
+  SaveDialog.folderName.onChange = [] {
+    FolderRetry.Disable();
+    SaveDialog.makeFolder.enabled = true;
+  };
+  SaveDialog.directories.onPick = [] { FolderRetry.Disable(); };
   SaveDialog.makeFolder.onClick = MakeFolder;
   SaveDialog.onClose = [] {
     FolderRetry.Disable();
@@ -102,7 +90,7 @@ void ShowSaveDialog() {
   }
   SaveDialog.fileName.Show("");
   ShowNoFolderName();
-  GoToStart(SaveDialog.lists);
+  SaveDialog.GoToStart();
   SaveDialog.shown = true;
 }
 

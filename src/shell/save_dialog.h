@@ -1,30 +1,20 @@
 // The screen that chooses the name of a configuration file and writes it.
 #pragma once
 
-#include "platform/field.h"
 #include "platform/tick.h"
-#include "shell/directory_lists.h"
+#include "shell/file_screen.h"
 
 namespace bkconf {
 
-struct SaveDialogScreen : Screen {
+struct SaveDialogScreen : FileScreen {
   SaveDialogScreen();
 
-  LabelField directoryLabel;
-  LabelField driveLabel;
-  ListField drives;
-  ListBoxField directories;
-  LabelField path;
-  LabelField filesLabel;
-  ListBoxField files;
   LabelField fileNameLabel;  ///< a double click proposes a name
   TextField fileName;
   ButtonField save;
   ButtonField newFolder;
   TextField folderName;
   ButtonField makeFolder;
-
-  DirectoryLists lists;
 };
 
 inline SaveDialogScreen SaveDialog;
@@ -35,7 +25,8 @@ void LoadSaveDialog();
 /// so, and no screen opens.
 void ShowSaveDialog();
 
-/// A folder that cannot be made is tried again until it can, or until the screen is closed.
+/// A folder that cannot be made is tried again until it can, until its name or the directory is
+/// changed, or until the screen is closed.
 extern Tick FolderRetry;
 
 }  // namespace bkconf

@@ -104,6 +104,23 @@ TEST_F(OpenDialogTest, AnotherDirectoryShowsItsPathAndFiles) {
   EXPECT_EQ(OpenDialog.files.Items(), Names{"d.BK1"});
 }
 
+TEST_F(OpenDialogTest, AHiddenDirectoryIsListedAfterItWasLeft) {
+  directories.existing.insert("/house/Cellar/.tool");
+  ShowDialog();
+  OpenDialog.lists.GoTo("/house/Cellar/.tool");
+  OpenDialog.directories.Open(0);
+  EXPECT_EQ(OpenDialog.lists.Path(), "/house/Cellar");
+  EXPECT_EQ(OpenDialog.directories.Items(), (std::vector<std::string>{"..", ".tool"}));
+  OpenDialog.directories.Open(1);
+  EXPECT_EQ(OpenDialog.lists.Path(), "/house/Cellar/.tool");
+}
+
+TEST_F(OpenDialogTest, ADefaultDirectoryThatIsNoWholePathIsNone) {
+  ShowDialog();
+  EXPECT_FALSE(OpenDialog.lists.CanGoTo("house"));
+  EXPECT_EQ(OpenDialog.lists.Path(), "/house");
+}
+
 TEST_F(OpenDialogTest, AnotherDriveShowsItsPathAndFiles) {
   ShowDialog();
   EXPECT_EQ(OpenDialog.drives.items, (Names{"/", "/home/installer", "/media/stick"}));

@@ -334,7 +334,7 @@ INSTANTIATE_TEST_SUITE_P(Types, OpenUnknownTest,
 
 TEST_F(OpenModuleTest, ASendOfAnUnknownTypeIsRefusedByEveryModule) {
   Start();
-  for (const char* type : {" 10 ", "-1 ", " 1.5 ", "abc"}) {
+  for (const char* type : {" 10 ", "-1 ", " 1.5 ", "abc", " 99 "}) {
     messages.told.clear();
     auto& module = Plug(0);
     const auto memory = module.memory();

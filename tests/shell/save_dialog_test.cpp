@@ -229,7 +229,7 @@ TEST_F(SaveDialogTest, AFolderKeepsTheFileNameThatStandsThere) {
   EXPECT_EQ(SaveDialog.fileName.Text(), "x");
 }
 
-TEST_F(SaveDialogTest, AFolderThatCannotBeMadeIsTriedUntilItsNameIsMended) {
+TEST_F(SaveDialogTest, AFolderThatCannotBeMadeIsTriedUntilItsNameIsTouched) {
   ShowDialog();
   AskForFolder("Attic");
   SaveDialog.makeFolder.Click();
@@ -241,8 +241,12 @@ TEST_F(SaveDialogTest, AFolderThatCannotBeMadeIsTriedUntilItsNameIsMended) {
   EXPECT_LT(tries, 5000U);
   EXPECT_TRUE(messages.told.empty());
   EXPECT_EQ(SaveDialog.folderName.Text(), "Attic");
-  SaveDialog.folderName.Type("Garage");
+  // Half a name makes no folder while the rest is typed.
+  SaveDialog.folderName.Type("Gar");
   clock.Advance(1000);
+  EXPECT_FALSE(Exists("/house/Gar"));
+  SaveDialog.folderName.Type("Garage");
+  SaveDialog.makeFolder.Click();
   EXPECT_TRUE(Exists("/house/Garage"));
   EXPECT_EQ(SaveDialog.directories.Items(), (Names{"..", "Attic", "Cellar", "Garage"}));
   ExpectNoFolderName();
@@ -275,6 +279,24 @@ TEST_F(SaveDialogTest, PressedAgainWhileItIsTriedTheFolderIsTriedAtOnceAndNoFast
   EXPECT_EQ(directories.tries.size(), once + 1);
   clock.Advance(1000);
   EXPECT_LE(directories.tries.size(), 2 * once + 1);
+}
+
+TEST_F(SaveDialogTest, TheTriesEndWhenAnotherDirectoryIsTouched) {
+  ShowDialog();
+  AskForFolder("Attic");
+  SaveDialog.makeFolder.Click();
+  SaveDialog.directories.Open(1);
+  EXPECT_EQ(SaveDialog.lists.Path(), "/house/Attic");
+  clock.Advance(1000);
+  EXPECT_FALSE(Exists("/house/Attic/Attic"));
+}
+
+TEST_F(SaveDialogTest, EnterMakesTheFolderWhileItsNameIsTypedAndSavesElsewhere) {
+  ShowDialog();
+  AskForFolder("Garden");
+  EXPECT_EQ(SaveDialog.folderName.enter, &SaveDialog.makeFolder);
+  EXPECT_EQ(SaveDialog.enter, &SaveDialog.save);
+  EXPECT_EQ(SaveDialog.firstFocus, &SaveDialog.fileName);
 }
 
 TEST_F(SaveDialogTest, TheTriesEndWhenTheDialogIsClosed) {

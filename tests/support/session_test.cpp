@@ -86,7 +86,8 @@ std::vector<std::string> FakeDirectories::FoldersIn(const std::string& path) con
   if (!existing.contains(path)) throw RuntimeError(ErrorKind::DirectoryNotRead, path + ": missing");
   std::vector<std::string> names;
   for (const std::string& each : existing) {
-    if (each != "/" && ParentOf(each) == path) names.push_back(NameOf(each));
+    if (each == "/" || ParentOf(each) != path || NameOf(each).front() == '.') continue;
+    names.push_back(NameOf(each));
   }
   return names;
 }

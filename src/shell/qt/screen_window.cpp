@@ -116,7 +116,8 @@ void ScreenWindow::PushFields() {
   for (const auto& menu : menus_) menu->Refresh();
   if (title_ != screen_.title) {
     title_ = screen_.title;
-    setWindowTitle(ToQt(title_));
+    // In a title "[*]" stands for a mark of Qt's own, unless it is there twice.
+    setWindowTitle(ToQt(title_).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
   }
   PushEnter();
   PushCovers();
@@ -168,6 +169,16 @@ void ScreenWindow::FocusNext(const QWidget* after) {
   if (next != order.end()) (*next)->setFocus();
 }
 
+void ScreenWindow::FocusFirst() {
+  QWidget* first =
+      screen_.firstFocus == nullptr ? nullptr : ViewOf(screen_.firstFocus->name).Widget();
+  if (first != nullptr && TakesFocus(*first)) {
+    first->setFocus();
+  } else {
+    FocusNext(nullptr);
+  }
+}
+
 void ScreenWindow::ShowOrHide() {
   if (screen_.shown == isVisible()) return;
   awaitedFocus_.clear();
@@ -175,7 +186,7 @@ void ScreenWindow::ShowOrHide() {
     hide();
     return;
   }
-  FocusNext(nullptr);
+  FocusFirst();
   if (minimised_) {
     minimised_ = false;
     showMinimized();
@@ -221,11 +232,21 @@ void ScreenWindow::keyPressEvent(QKeyEvent* event) {
   }
 }
 
+/// The button that Enter means in the text that has the focus, or null.
+const ButtonField* ScreenWindow::EnterInFocus() const {
+  for (const auto& view : views_) {
+    if (view->Widget() != focusWidget() || view->Shown().kind != FieldKind::Text) continue;
+    return static_cast<const TextField&>(view->Shown()).enter;
+  }
+  return nullptr;
+}
+
 /// A button that has the focus is what Enter means; it gets Enter itself only inside a dialog.
 void ScreenWindow::PressEnter() {
   auto* button = dynamic_cast<QPushButton*>(focusWidget());
-  if (button == nullptr && enter_ != nullptr) {
-    button = static_cast<QPushButton*>(ViewOf(enter_->name).Widget());
+  const ButtonField* means = EnterInFocus() != nullptr ? EnterInFocus() : enter_;
+  if (button == nullptr && means != nullptr) {
+    button = static_cast<QPushButton*>(ViewOf(means->name).Widget());
   }
   if (button != nullptr && button->isVisible()) button->click();
 }

@@ -47,6 +47,8 @@ class ScreenWindow : public QMainWindow {
   void PushCovers();
   void KeepFocus(const QPointer<QWidget>& before);
   /// To the next field in reading order that takes it; to the first after null.
+  void FocusFirst();
+  const ButtonField* EnterInFocus() const;
   void FocusNext(const QWidget* after);
 
   void ShowOrHide();
