@@ -2,9 +2,6 @@
 // buttons, entries and labels up here.
 #pragma once
 
-#include <ostream>
-#include <string>
-
 namespace end_to_end {
 
 struct Captions {
@@ -32,8 +29,6 @@ struct Captions {
   // File screens
   const char* openTitle;
   const char* openButton;
-  const char* lookIn;
-  const char* files;
   const char* saveTitle;
   const char* saveButton;
   const char* fileName;
@@ -62,8 +57,6 @@ inline constexpr Captions dutch = {.language = 1,
                                    .saveAsEntry = "Module Opslaan als ...",
                                    .openTitle = "Openen",
                                    .openButton = "Openen",
-                                   .lookIn = "Zoeken in:",
-                                   .files = "Bestanden:",
                                    .saveTitle = "Opslaan",
                                    .saveButton = "Bewaren",
                                    .fileName = "Bestandsnaam",
@@ -89,8 +82,6 @@ inline constexpr Captions french = {.language = 2,
                                     .saveAsEntry = "Sauver module dans ...",
                                     .openTitle = "Ouvrir",
                                     .openButton = "Ouvrir",
-                                    .lookIn = "Ouvrir dans:",
-                                    .files = "Fichiers:",
                                     .saveTitle = "Sauver",
                                     .saveButton = "Sauver",
                                     .fileName = "Nom fichier",
