@@ -232,19 +232,20 @@ void ScreenWindow::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-/// The button that Enter means in the text that has the focus, or null.
+/// The button that Enter means where the focus is: a text can have one of its own.
 const ButtonField* ScreenWindow::EnterInFocus() const {
   for (const auto& view : views_) {
     if (view->Widget() != focusWidget() || view->Shown().kind != FieldKind::Text) continue;
-    return static_cast<const TextField&>(view->Shown()).enter;
+    const auto& text = static_cast<const TextField&>(view->Shown());
+    return text.enter == nullptr ? enter_ : text.enter;
   }
-  return nullptr;
+  return enter_;
 }
 
 /// A button that has the focus is what Enter means; it gets Enter itself only inside a dialog.
 void ScreenWindow::PressEnter() {
   auto* button = dynamic_cast<QPushButton*>(focusWidget());
-  const ButtonField* means = EnterInFocus() != nullptr ? EnterInFocus() : enter_;
+  const ButtonField* means = EnterInFocus();
   if (button == nullptr && means != nullptr) {
     button = static_cast<QPushButton*>(ViewOf(means->name).Widget());
   }

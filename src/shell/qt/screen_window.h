@@ -46,13 +46,13 @@ class ScreenWindow : public QMainWindow {
   void PushEnter();
   void PushCovers();
   void KeepFocus(const QPointer<QWidget>& before);
-  /// To the next field in reading order that takes it; to the first after null.
   void FocusFirst();
-  const ButtonField* EnterInFocus() const;
+  /// To the next field in reading order that takes it; to the first after null.
   void FocusNext(const QWidget* after);
 
   void ShowOrHide();
   void Settle();
+  const ButtonField* EnterInFocus() const;
   void PressEnter();
   void PressEscape();
 

@@ -32,13 +32,14 @@ struct SampleScreen : Screen {
   TextField text{*this, "text"};
   LabelField path{*this, "path"};
   ButtonField button{*this, "button"};
+  ButtonField other{*this, "other"};
 
   QStringList events;
 };
 
 Part SampleLayout() {
   return Column({Below("boxLabel", "box"), Row({Item("textLabel"), Labelled("textLabel", "text")}),
-                 Item("path", Look::Path), Item("button")});
+                 Item("path", Look::Path), Item("button"), Item("other")});
 }
 
 QStringList Events(std::initializer_list<const char*> texts) {
@@ -97,6 +98,17 @@ class InputViewsTest : public QObject {
     Line()->setFocus();
     QTest::keyClick(Line(), Qt::Key_Return);
     QCOMPARE(screen_->events, Events({"button"}));
+  }
+
+  void ATextCanHaveAButtonOfItsOwnForEnter() {
+    screen_->other.onClick = [this] { screen_->events.append(QStringLiteral("other")); };
+    screen_->text.enter = &screen_->other;
+    window_->Refresh();
+    Line()->setFocus();
+    QTest::keyClick(Line(), Qt::Key_Return);
+    Box()->setFocus();
+    QTest::keyClick(Box(), Qt::Key_Return);
+    QCOMPARE(screen_->events, Events({"other", "button"}));
   }
 
   // --- List box

@@ -107,6 +107,20 @@ class OpenedWindowsTest : public QObject {
     QCOMPARE(openedWindow_->focusWidget(), openedWindow_->findChild<QLineEdit*>());
   }
 
+  void AScreenCanNameTheFieldThatHasTheFocusFirst() {
+    const auto first = [this] {
+      return openedWindow_->findChild<QPushButton*>(QStringLiteral("first"));
+    };
+    opened_->firstFocus = &opened_->first;
+    Open();
+    QCOMPARE(openedWindow_->focusWidget(), first());
+    Close();
+    // One that cannot take it leaves it to the first that can.
+    opened_->first.enabled = false;
+    Open();
+    QCOMPARE(openedWindow_->focusWidget(), openedWindow_->findChild<QLineEdit*>());
+  }
+
   void AnOpenedWindowFitsItsContentAndStandsInTheMiddleOfItsOpener() {
     Open();
     QCOMPARE(openedWindow_->size(), openedWindow_->sizeHint());
