@@ -1,6 +1,7 @@
 #include "shell/qt/manual_view.h"
 
 #include <QAbstractSlider>
+#include <QPdfPageRenderer>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -81,6 +82,12 @@ void ManualView::AddScrollKeys() {
 }
 
 void ManualView::Close() {
+  if (pages_ != nullptr) {
+    // Otherwise the thread that draws the pages is ended but never deleted.
+    for (auto* renderer : pages_->findChildren<QPdfPageRenderer*>()) {
+      renderer->setRenderMode(QPdfPageRenderer::RenderMode::SingleThreaded);
+    }
+  }
   pages_.reset();
   document_.reset();
   file_.clear();
