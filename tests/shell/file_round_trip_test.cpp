@@ -5,6 +5,7 @@
 
 #include "image/file_lines.h"
 #include "link/transfer.h"
+#include "platform/disk_files.h"
 #include "session/resets.h"
 #include "shell/module_file.h"
 #include "support/session_test.h"
@@ -15,6 +16,11 @@ namespace {
 using virtual_module::Memory;
 
 const Cell Mark = "mark";
+
+const std::map<int, std::string_view> DemoNames = {
+    {0, "Relais A"},    {1, "Dimmer C"}, {2, "Temp E"},   {3, "LCD F"},
+    {4, "Relais_DC B"}, {5, "Alarm G"},  {6, "Audio H"},  {7, "Simulatie I"},
+    {8, "I.R. J"},      {9, "Master"},   {11, "Dimmer D"}};
 
 class RoundTripTest : public SessionTest, public testing::WithParamInterface<int> {
  protected:
@@ -95,6 +101,18 @@ TEST_P(RoundTripTest, TheFlagsOfAnOpenedImageAreThoseOfAReadOneWithEverythingCha
   OpenModule("/house/a.BK1");
   for (const Flag& flag : StartUpFlags) EXPECT_EQ(*flag.cell, expected[flag.name]) << flag.name;
   EXPECT_EQ(TempRoomCount, rooms);
+}
+
+/// The house that comes with the tool: its files were written by a program that shares nothing with
+/// the tool, and a module takes them as its memory.
+TEST_P(RoundTripTest, AModuleOfTheDemoHouseIsSavedAsItsFileByteForByte) {
+  Start();
+  const std::string file = BKCONF_DEMO_HOUSE "/" + std::string(DemoNames.at(kind)) + ".BK1";
+  Plug({kind, virtual_module::LoadImage(file), std::nullopt, 1});
+  ReadAllTables();
+  EXPECT_EQ(ProposedName(), DemoNames.at(kind));
+  SaveModuleAs("/house", ProposedName());
+  EXPECT_EQ(files.content["/house/" + ProposedName() + ".BK1"], DiskFiles().Load(file));
 }
 
 TEST_P(RoundTripTest, SavedOpenedAndSavedAgainTheFileIsTheSame) {
