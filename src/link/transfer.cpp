@@ -50,6 +50,10 @@ bool SentByUser() {
   return WriteInProgress.Number() == 1;
 }
 
+void SignalChange() {
+  Window.send->enabled = true;
+}
+
 void UnlockButtons() {
   Window.connect->enabled = true;
   Window.send->enabled = true;

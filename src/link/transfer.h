@@ -48,6 +48,9 @@ bool StartRequest(std::string_view command);
 /// True while a Send runs, also one that only repeats a read: no screen waits for that read.
 bool SentByUser();
 
+/// Tells the main window that the image was changed: it can be sent.
+void SignalChange();
+
 /// Gives Connect, Send and the action buttons back.
 void UnlockButtons();
 /// Gives the menus and the selection list back: the transfer is over.

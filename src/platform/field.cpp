@@ -63,6 +63,71 @@ void ListBoxField::Open(int index) {
   if (onOpen) onOpen();
 }
 
+void CheckField::Set(bool on) {
+  if (!enabled || !visible || checked == on) return;
+  checked = on;
+  if (onChange) onChange();
+}
+
+OptionField::OptionField(Screen& screen, std::string_view fieldName, OptionField* first)
+    : Field(screen, FieldKind::Option, fieldName), first_(first == nullptr ? this : first) {
+  first_->group_.push_back(this);
+}
+
+void OptionField::Choose() {
+  if (!enabled || !visible) return;
+  Show();
+  if (onChoose) onChoose();
+}
+
+void OptionField::Show() {
+  ClearGroup();
+  chosen_ = true;
+}
+
+void OptionField::ClearGroup() {
+  for (OptionField* option : first_->group_) option->chosen_ = false;
+}
+
+void GridField::Resize(int rows) {
+  cells_.assign(static_cast<std::size_t>(rows), std::vector<std::string>(columns.size()));
+  ClearSelection();
+}
+
+bool GridField::Has(int row, int column) const {
+  return row >= 1 && row <= Rows() && column >= 0 && column < static_cast<int>(columns.size());
+}
+
+const std::string& GridField::At(int row, int column) const {
+  static const std::string nothing;
+  if (!Has(row, column)) return nothing;
+  return cells_[static_cast<std::size_t>(row - 1)][static_cast<std::size_t>(column)];
+}
+
+void GridField::Put(int row, int column, std::string_view text) {
+  if (!Has(row, column)) return;
+  cells_[static_cast<std::size_t>(row - 1)][static_cast<std::size_t>(column)] = text;
+}
+
+void GridField::Blank() {
+  for (auto& row : cells_) {
+    for (std::string& cell : row) cell.clear();
+  }
+}
+
+void GridField::Select(int row, int column) {
+  if (!enabled || !visible || !Has(row, column) || (rowHeader && column == 0)) return;
+  row_ = row;
+  column_ = column;
+  if (onSelect) onSelect(row, column);
+}
+
+void GridField::DoubleClick(int row, int column) {
+  if (!enabled || !visible) return;
+  Select(row, column);
+  if (onDoubleClick) onDoubleClick(row, column);
+}
+
 void ProgressField::Start(int maximum) {
   maximum_ = maximum;
   value_ = 0;

@@ -13,7 +13,21 @@ struct ButtonField;
 struct Screen;
 
 /// Which view a field gets.
-enum class FieldKind { Group, Label, Text, List, ListBox, Button, Progress, Picture, Manual, Menu };
+enum class FieldKind {
+  Group,
+  Label,
+  Text,
+  List,
+  ListBox,
+  Check,
+  Option,
+  Grid,
+  Button,
+  Progress,
+  Picture,
+  Manual,
+  Menu
+};
 
 /// What all fields have. A field adds itself to its screen's list, in the order of declaration, so
 /// it never moves. Texts are UTF-8.
@@ -124,6 +138,86 @@ struct ListBoxField : Field {
 
   std::vector<std::string> items_;
   int index_ = -1;
+};
+
+/// A box to tick.
+struct CheckField : Field {
+  CheckField(Screen& screen, std::string_view fieldName)
+      : Field(screen, FieldKind::Check, fieldName) {}
+
+  bool checked = false;
+  std::function<void()> onChange;  ///< runs after the user has ticked or unticked it
+
+  /// Ticks or unticks it, as a user does. A disabled or hidden box stays as it is.
+  void Set(bool on);
+};
+
+/// One of several choices, of which at most one is taken.
+struct OptionField : Field {
+  /// `first` is the first choice of the same group, or null for the first one itself.
+  OptionField(Screen& screen, std::string_view fieldName, OptionField* first);
+
+  std::function<void()> onChoose;  ///< runs after the user has taken it
+
+  bool Chosen() const { return chosen_; }
+  /// Takes the choice, as a user does: no other of its group is taken then.
+  void Choose();
+  /// Shows it as taken, without running the handler.
+  void Show();
+  /// Shows none of its group as taken.
+  void ClearGroup();
+  /// All choices of the group, in the order of declaration.
+  const std::vector<OptionField*>& Group() const { return first_->group_; }
+
+ private:
+  bool chosen_ = false;
+  OptionField* first_;
+  std::vector<OptionField*> group_;  ///< of the first one: all of them
+};
+
+/// A table of texts with a row of captions on top. Rows count from 1, since 0 is the captions;
+/// columns count from 0. One cell may be the current one.
+struct GridField : Field {
+  GridField(Screen& screen, std::string_view fieldName)
+      : Field(screen, FieldKind::Grid, fieldName) {}
+
+  struct Column {
+    std::string caption;
+    int width = 0;  ///< in proportion to the other columns
+  };
+
+  std::vector<Column> columns;
+  bool rowHeader = false;  ///< column 0 is a header that is never current
+  std::function<void(int row, int column)> onSelect;       ///< runs after a cell became current
+  std::function<void(int row, int column)> onDoubleClick;  ///< also on captions and headers
+
+  int Rows() const { return static_cast<int>(cells_.size()); }
+  int CurrentRow() const { return row_; }  ///< 0 when there is none
+  int CurrentColumn() const { return column_; }
+
+  /// Gives it that many rows, all of them empty, and no current cell.
+  void Resize(int rows);
+  /// Empty outside the table.
+  const std::string& At(int row, int column) const;
+  /// Outside the table nothing happens.
+  void Put(int row, int column, std::string_view text);
+  /// Empties every cell; the current one stays.
+  void Blank();
+
+  /// Makes a cell current and runs the handler. Captions, headers and what lies outside are never
+  /// current.
+  void Select(int row, int column);
+  /// Selects the cell, where it can be, and runs the handler of the double click.
+  void DoubleClick(int row, int column);
+  /// No cell is current any more.
+  void ClearSelection() { row_ = column_ = 0; }
+
+ private:
+  bool Has(int row, int column) const;
+
+  std::vector<std::vector<std::string>> cells_;
+  int row_ = 0;
+  int column_ = 0;
 };
 
 /// A button. Without a handler it is shown disabled, since there is nothing that it could do.

@@ -115,4 +115,13 @@ inline const ModuleKind* ActiveKind() {
   return FindKind(ActiveCode());
 }
 
+/// The address letter of the module in memory, as its code; an empty cell for a master, and while
+/// there is no module.
+inline const Cell& OwnAddress() {
+  static const Cell none;
+  const ModuleKind* kind = ActiveKind();
+  if (kind == nullptr || kind->address.table == nullptr) return none;
+  return (*kind->address.table)[kind->address.index];
+}
+
 }  // namespace bkconf

@@ -139,8 +139,8 @@ inline constexpr auto ActionButtons = std::to_array<ActionButtonRow>({
      true},
 });
 
-/// What each action does. Filled in by the folders of the screens before the session starts; the
-/// button of an action that nobody filled in is shown disabled.
+/// What each action does; filled by `LoadEditors`. The button of an action that nobody filled
+/// in is shown disabled.
 inline std::array<std::function<void()>, ActionCount> ActionHandlers;
 
 }  // namespace bkconf

@@ -11,6 +11,7 @@
 #include "session/resets.h"
 #include "shell/directory_picker.h"
 #include "shell/directory_screen.h"
+#include "shell/editors.h"
 #include "shell/manual.h"
 #include "shell/menus.h"
 #include "shell/open_dialog.h"
@@ -70,6 +71,7 @@ MainWindowScreen::MainWindowScreen()
       tolerance(*this, "tolerance"),
       detectorCountLabel(*this, "detectorCountLabel"),
       detectorCount(*this, "detectorCount"),
+      modulePage(*this),
       manual(*this, "manual"),
       closeManual(*this, "closeManual"),
       status(*this, "status"),
@@ -261,6 +263,7 @@ void EnableMenus(bool enabled) {
 void EnableActions(bool enabled) {
   const bool usable = enabled && ActiveKind() != nullptr;
   for (const auto& button : MainWindow.actionButtons) button->enabled = usable;
+  EnableModulePage(usable);
   for (ButtonField* info : {&MainWindow.moreInfo, &MainWindow.infoInductive,
                             &MainWindow.infoCapacitive, &MainWindow.infoAnalogue}) {
     info->enabled = enabled;
@@ -291,6 +294,7 @@ constexpr auto AddressFlags =
 void PickAddress(const ListField& list) {
   const ModuleKind* kind = ActiveKind();
   CellAt(kind->address) = static_cast<int>(list.Text().front());
+  SignalChange();
   for (const AddressFlag& row : AddressFlags) {
     if (row.kind == kind->code) *row.dirty = 1;
   }
@@ -298,6 +302,7 @@ void PickAddress(const ListField& list) {
 
 void PickCell(const CellField& field) {
   CellAt(field.cell) = ReadsAsNumber(field.list->Text()).value_or(0);
+  SignalChange();
   if (field.dirty != nullptr) *field.dirty = 1;
   if (field.list == &MainWindow.roomCount) TempRoomCount = CellAt(field.cell);
 }
@@ -320,7 +325,10 @@ void FillLists() {
   }
   MainWindow.moduleList.items.clear();
   for (const Model& model : Models) MainWindow.moduleList.items.emplace_back(model.name);
-  MainWindow.moduleList.onPick = ShowModel;
+  MainWindow.moduleList.onPick = [] {
+    HideModulePage();
+    ShowModel();
+  };
 }
 
 void ShowCaptions() {
@@ -356,7 +364,10 @@ void FillTransferWindow() {
 
 void FillButtons() {
   MainWindow.connect.onClick = Connect;
-  MainWindow.send.onClick = SendImage;
+  MainWindow.send.onClick = [] {
+    HideModulePage();
+    SendImage();
+  };
   MainWindow.upgrade.onClick = HandOverOnRequest;
   for (std::size_t i = 0; i < ActionButtons.size(); ++i) {
     MainWindow.actionButtons[i]->onClick =
@@ -366,6 +377,7 @@ void FillButtons() {
 
 /// What the window shows while there is no image.
 void ShowNoModule() {
+  HideModulePage();
   ShowDataGroup(DataGroup::General);
   ShowFieldsOf(nullptr, Origin::Read);
   ClearModuleFields();
@@ -397,6 +409,7 @@ void ShowTitle(const std::string& path) {
 }
 
 void ShowImage(Origin origin) {
+  HideModulePage();
   if (const ModuleKind* kind = ActiveKind()) {
     ShowModelOf(*kind);
     ShowGroupOf(*kind, origin);
@@ -414,6 +427,8 @@ void LoadMainWindow() {
   ShowCaptions();
   FillMenus();
   FillLists();
+  LoadEditors();
+  LoadModulePage(MainWindow.modulePage);
   FillButtons();
   LoadManuals();
   LoadOpenDialog();
@@ -428,6 +443,7 @@ void LoadMainWindow() {
 
 void Connect() {
   try {
+    HideModulePage();
     RxLine.clear();
     ClearModuleFields();
     Clear(ConnectClears);

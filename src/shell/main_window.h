@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "master/module_page.h"
 #include "platform/field.h"
 #include "platform/tick.h"
 #include "session/state.h"
@@ -55,6 +56,8 @@ struct MainWindowScreen : Screen {
   LabelField detectorCountLabel;
   ListField detectorCount;                                  ///< cell 123 of AlarmImage, 1 to 12
   std::vector<std::unique_ptr<ButtonField>> actionButtons;  ///< one for each row of ActionButtons
+
+  ModulePageFields modulePage;  ///< of a master
 
   // Over all of it
   ManualField manual;

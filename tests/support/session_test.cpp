@@ -7,6 +7,8 @@
 #include "image/tables.h"
 #include "link/link_ticks.h"
 #include "link/transfer.h"
+#include "output/button_screen.h"
+#include "output/output_screen.h"
 #include "session/settings.h"
 #include "shell/directory_picker.h"
 #include "shell/directory_screen.h"
@@ -40,6 +42,8 @@ void ResetGlobals() {
   MakeAnew(SaveDialog);
   MakeAnew(DirectoryScreen);
   MakeAnew(DirectoryPicker);
+  MakeAnew(ButtonScreen);
+  MakeAnew(OutputScreen);
 }
 
 void DisableTicks() {

@@ -1,0 +1,53 @@
+#include "actions/action_code.h"
+
+#include "text/windows1252.h"
+
+namespace bkconf {
+namespace {
+
+/// A number this high marks a value in one of the audio blocks.
+constexpr int FirstAudioBlock = 16;
+
+bool IsWord(const Cell& cell) {
+  return cell.IsText() && !ReadsAsNumber(cell.Text());
+}
+
+/// In a test of a range a word is above every number.
+bool IsAtLeast(const Cell& cell, double bound) {
+  return IsWord(cell) || cell.Number() >= bound;
+}
+
+int ValueBase(const Cell& target, const Cell& index, ValueForm form) {
+  if (form == ValueForm::AsStored || target.Number() == ContextLetter) return 100;
+  return target.Number() == CorvelaLetter || IsAtLeast(index, FirstAudioBlock) ? 101 : 100;
+}
+
+}  // namespace
+
+bool HoldsAction(const Cell& target) {
+  if (IsWord(target)) return false;
+  const double code = target.Number();
+  return (code >= 'A' && code <= ContextLetter) || code == CorvelaLetter;
+}
+
+std::string TwoDigits(double number) {
+  const std::string text = PlainText(number);
+  return text.size() < 2 ? text : text.substr(text.size() - 2);
+}
+
+std::string ActionCode(const Cell& target, const Cell& index, const Cell& value, ValueForm form) {
+  return CharacterOf(target.Whole()) + TwoDigits(index.Number() + 101) +
+         TwoDigits(value.Number() + ValueBase(target, index, form));
+}
+
+std::string NormalisedActionCode(Table& table, int cell) {
+  if (HoldsAction(table[cell])) return ActionCode(table[cell], table[cell + 1], table[cell + 2]);
+  EraseAction(table, cell);
+  return std::string(ActionEmptyText);
+}
+
+void EraseAction(Table& table, int cell) {
+  for (int i = 0; i < ActionSize; ++i) table[cell + i] = EmptyCell;
+}
+
+}  // namespace bkconf

@@ -1,0 +1,429 @@
+#include "actions/action_picker.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "image/kind_set.h"
+#include "image/module_directory.h"
+#include "session/language.h"
+#include "text/windows1252.h"
+
+namespace bkconf {
+namespace {
+
+constexpr int RelayKind = 0;
+constexpr int TemperatureKind = 2;
+constexpr int DisplayKind = 3;
+constexpr int RelayDcKind = 4;
+constexpr int AudioKind = 6;
+constexpr int SimulationKind = 7;
+
+/// Images that know no more of the installation than their own letter.
+constexpr KindSet PlainImages{0, 1, 2, 4, 5, 6, 7, 11};
+/// Kinds that the master's list of modules tells of.
+constexpr KindSet ListedKinds{0, 1, 2, 3, 4, 5, 6, 7, 11};
+
+/// What an output does, by its place in the action list.
+enum class Switching {
+  OnOff,
+  Toggle,
+  Percentages,       ///< toggle, and 10 % to 90 %
+  FirstFourOfEight,  ///< outputs 1 to 4 have percentages; the list waits for the output
+};
+
+struct Target {
+  int kind;
+  bool detectors;
+  int outputs;
+  Switching switching;
+};
+
+constexpr auto Targets = std::to_array<Target>({
+    {0, false, 12, Switching::Toggle},
+    {4, false, 12, Switching::Toggle},
+    {1, false, 4, Switching::Percentages},
+    {5, true, 12, Switching::OnOff},
+    {11, false, 8, Switching::FirstFourOfEight},
+});
+
+const Target* FindTarget(int kind) {
+  const auto target = std::find_if(Targets.begin(), Targets.end(),
+                                   [kind](const Target& each) { return each.kind == kind; });
+  return target == Targets.end() ? nullptr : &*target;
+}
+
+/// Outputs of a module of eight that dim.
+constexpr int DimmingOutputs = 4;
+/// Places in the action list in front of the percentages.
+constexpr int SwitchActions = 3;
+
+constexpr auto MainZoneActions = std::to_array<TextId>(
+    {TextId::ZoneOff, TextId::ZoneOn, TextId::Toggle, TextId::VolumeUp, TextId::VolumeDown,
+     TextId::SourceUp, TextId::TrebleUp, TextId::TrebleDown, TextId::BassUp, TextId::BassDown,
+     TextId::SetSource, TextId::SetVolume, TextId::SetTreble, TextId::SetBass, TextId::SetBalance});
+constexpr auto SecondaryZoneActions =
+    std::to_array<TextId>({TextId::ZoneOff, TextId::ZoneOn, TextId::Toggle, TextId::VolumeUp,
+                           TextId::VolumeDown, TextId::SetVolume, TextId::SetBalance});
+
+/// The first place whose action needs a value.
+constexpr int FirstMainValue = 10;
+constexpr int FirstSecondaryValue = 5;
+/// Numbers of zones, and of values: each block of numbers has so many.
+constexpr int Zones = 16;
+/// The blocks of volume and balance, by place behind the secondary zone's first value.
+constexpr auto SecondaryBlocks = std::to_array<int>({32, 80});
+
+constexpr int Rooms = 8;
+constexpr int HighestTemperature = 40;
+constexpr int Contexts = 50;
+constexpr int Codes = 99;
+
+std::string Say(TextId id) {
+  return std::string(Text(id));
+}
+
+std::vector<std::string> Numbers(int first, int last) {
+  std::vector<std::string> items;
+  for (int number = first; number <= last; ++number) items.push_back(std::to_string(number));
+  return items;
+}
+
+std::vector<std::string> CodeNumbers() {
+  std::vector<std::string> items;
+  for (int code = 1; code <= Codes; ++code) items.push_back(TwoDigits(100 + code));
+  return items;
+}
+
+template <typename Ids>
+std::vector<std::string> Say(const Ids& ids) {
+  std::vector<std::string> items;
+  for (const TextId id : ids) items.push_back(Say(id));
+  return items;
+}
+
+std::vector<std::string> SwitchItems(Switching switching) {
+  std::vector<std::string> items = {Say(TextId::SwitchOff), Say(TextId::SwitchOn)};
+  if (switching == Switching::OnOff) return items;
+  items.push_back(Say(TextId::Toggle));
+  if (switching != Switching::Percentages) return items;
+  for (int percent = 10; percent <= 90; percent += 10) {
+    items.push_back(std::to_string(percent) + "%");
+  }
+  return items;
+}
+
+void HideList(ListField& list) {
+  list.visible = false;
+  list.Clear();
+}
+
+void HideOptions(OptionField& first) {
+  first.ClearGroup();
+  for (OptionField* option : first.Group()) option->visible = false;
+}
+
+void OfferList(ListField& list, std::vector<std::string> items) {
+  list.items = std::move(items);
+  list.Clear();
+  list.visible = true;
+}
+
+}  // namespace
+
+void LabelledList::Offer(std::string_view caption, std::vector<std::string> items) {
+  label.caption = caption;
+  label.visible = true;
+  OfferList(list, std::move(items));
+}
+
+void LabelledList::Hide() {
+  label.visible = false;
+  HideList(list);
+}
+
+TemperatureChoice::TemperatureChoice(Screen& screen, const std::string& name, OptionField* first)
+    : option(screen, name, first),
+      temperature(screen, name + "Degrees"),
+      room(screen, name + "Room") {}
+
+ActionPicker::ActionPicker(Screen& screen, const std::string& prefix, const PickerVariant& variant)
+    : letterLabel(screen, prefix + "LetterLabel"),
+      letter(screen, prefix + "Letter"),
+      typeLabel(screen, prefix + "TypeLabel"),
+      type(screen, prefix + "Type"),
+      mainZone(screen, prefix + "MainZone", nullptr),
+      secondaryZone(screen, prefix + "SecondaryZone", &mainZone),
+      output(screen, prefix + "Output"),
+      action(screen, prefix + "Action"),
+      value(screen, prefix + "Value"),
+      temperatures{TemperatureChoice(screen, prefix + "RoomTemperature", nullptr),
+                   TemperatureChoice(screen, prefix + "RoomBase", &temperatures[0].option),
+                   TemperatureChoice(screen, prefix + "AllTemperature", &temperatures[0].option),
+                   TemperatureChoice(screen, prefix + "AllBase", &temperatures[0].option)},
+      simulationOn(screen, prefix + "SimulationOn", nullptr),
+      simulationOff(screen, prefix + "SimulationOff", &simulationOn),
+      variant_(variant) {
+  Close();
+}
+
+void ActionPicker::Load() {
+  constexpr auto choices =
+      std::to_array<TextId>({TextId::DegreesInRoom, TextId::BaseInRoom, TextId::DegreesInAllRooms,
+                             TextId::BaseInAllRooms});
+  for (std::size_t i = 0; i < choices.size(); ++i) {
+    ::bkconf::Show(temperatures[i].option.caption, choices[i]);
+  }
+  ::bkconf::Show(letterLabel.caption, TextId::LetterCaption);
+  ::bkconf::Show(typeLabel.caption, TextId::TypeCaption);
+  ::bkconf::Show(mainZone.caption, TextId::MainZone);
+  ::bkconf::Show(secondaryZone.caption, TextId::SecondaryZone);
+  ::bkconf::Show(simulationOn.caption, TextId::SimulationOn);
+  ::bkconf::Show(simulationOff.caption, TextId::SimulationOff);
+  letter.items.clear();
+  for (char each = 'A'; each < ContextLetter; ++each) letter.items.emplace_back(1, each);
+  if (variant_.offersContexts) letter.items.emplace_back(1, ContextLetter);
+  letter.items.emplace_back(1, CorvelaLetter);
+  type.items.clear();
+  for (const PickerType& row : variant_.types) type.items.push_back(Say(row.name));
+  letter.onPick = [this] { PickLetter(); };
+  type.onPick = [this] { PickType(); };
+  output.list.onPick = [this] { PickOutput(); };
+  action.list.onPick = [this] { PickAction(); };
+  mainZone.onChoose = secondaryZone.onChoose = [this] { OfferZoneActions(); };
+}
+
+void ActionPicker::Reset() {
+  HideLower();
+  letter.Clear();
+  letter.enabled = true;
+  type.Clear();
+  type.enabled = false;
+}
+
+void ActionPicker::Close() {
+  Reset();
+  letter.enabled = false;
+}
+
+char ActionPicker::Letter() const {
+  return letter.Text().empty() ? '\0' : letter.Text().front();
+}
+
+void ActionPicker::HideLower() {
+  output.Hide();
+  action.Hide();
+  value.Hide();
+  HideOptions(mainZone);
+  HideOptions(simulationOn);
+  HideOptions(temperatures[0].option);
+  for (TemperatureChoice& choice : temperatures) {
+    HideList(choice.temperature);
+    HideList(choice.room);
+  }
+}
+
+// --- The letter
+// -----------------------------------------------------------------------------------
+
+void ActionPicker::PickLetter() {
+  HideLower();
+  AskType();
+  if (Letter() == ContextLetter) {
+    OfferContexts();
+  } else if (Letter() == CorvelaLetter) {
+    OfferCodes();
+  } else if (!PlainImages.Contains(ActiveCode())) {
+    const auto kind = DirectoryTypeOf(Letter());
+    if (kind && ListedKinds.Contains(*kind)) ShowKind(*kind);
+  } else if (CharacterOf(OwnAddress().Whole()) == letter.Text()) {
+    // A DC relay module shows itself as a relay module here; both are stored alike.
+    ShowKind(ActiveCode() == RelayDcKind ? RelayKind : ActiveCode());
+  }
+}
+
+/// A plain module does not know the installation: the installer names the type of the target.
+void ActionPicker::AskType() {
+  type.Show(Text(variant_.prompt));
+  type.enabled = true;
+}
+
+/// The type is known, and cannot be chosen.
+void ActionPicker::ShowKind(int kind) {
+  if (kind == DisplayKind) {
+    // Such a module offers no actions.
+    type.Show(Text(TextId::NoActions));
+    type.enabled = false;
+    return;
+  }
+  const auto row = std::find_if(variant_.types.begin(), variant_.types.end(),
+                                [kind](const PickerType& each) { return each.kind == kind; });
+  if (row == variant_.types.end()) return;
+  type.Show(Text(row->name));
+  type.enabled = false;
+  OfferType(kind);
+}
+
+void ActionPicker::OfferContexts() {
+  type.Show(Text(TextId::ContextType));
+  type.enabled = false;
+  output.Offer(Text(variant_.context), Numbers(1, Contexts));
+}
+
+void ActionPicker::OfferCodes() {
+  type.Show(Text(TextId::CorvelaType));
+  type.enabled = false;
+  output.Offer(Text(variant_.code), CodeNumbers());
+  action.Offer(Text(variant_.code), CodeNumbers());
+}
+
+// --- The type
+// -------------------------------------------------------------------------------------
+
+int ActionPicker::Kind() const {
+  if (type.Index() < 0) return NoModule;
+  return variant_.types[static_cast<std::size_t>(type.Index())].kind;
+}
+
+void ActionPicker::PickType() {
+  HideLower();
+  OfferType(Kind());
+}
+
+void ActionPicker::OfferType(int kind) {
+  if (kind == TemperatureKind) return OfferTemperatures();
+  if (kind == AudioKind) return OfferZones();
+  if (kind == SimulationKind) return OfferSimulation();
+  const Target* target = FindTarget(kind);
+  if (target == nullptr) return;
+  output.Offer(Text(target->detectors ? variant_.detector : variant_.output),
+               Numbers(1, target->outputs));
+  const bool waits = target->switching == Switching::FirstFourOfEight;
+  action.Offer(Text(variant_.action),
+               waits ? std::vector<std::string>() : SwitchItems(target->switching));
+}
+
+void ActionPicker::OfferTemperatures() {
+  struct Needs {
+    bool temperature;
+    bool room;
+  };
+  constexpr auto needs =
+      std::to_array<Needs>({{true, true}, {false, true}, {true, false}, {false, false}});
+  for (std::size_t i = 0; i < temperatures.size(); ++i) {
+    TemperatureChoice& choice = temperatures[i];
+    choice.option.visible = true;
+    if (needs[i].temperature) OfferList(choice.temperature, Numbers(0, HighestTemperature));
+    if (needs[i].room) OfferList(choice.room, Numbers(1, Rooms));
+  }
+}
+
+void ActionPicker::OfferZones() {
+  mainZone.visible = secondaryZone.visible = true;
+  output.Offer(Text(TextId::ZoneCaption), Numbers(1, Zones));
+}
+
+void ActionPicker::OfferZoneActions() {
+  value.Hide();
+  action.Offer(Text(variant_.action),
+               mainZone.Chosen() ? Say(MainZoneActions) : Say(SecondaryZoneActions));
+}
+
+void ActionPicker::OfferSimulation() {
+  simulationOn.visible = simulationOff.visible = true;
+}
+
+// --- Below
+// ----------------------------------------------------------------------------------------
+
+void ActionPicker::PickOutput() {
+  const Target* target = FindTarget(Kind());
+  if (target == nullptr || target->switching != Switching::FirstFourOfEight) return;
+  const bool dims = output.list.Index() < DimmingOutputs;
+  action.Offer(Text(variant_.action),
+               SwitchItems(dims ? Switching::Percentages : Switching::Toggle));
+}
+
+void ActionPicker::PickAction() {
+  if (Kind() != AudioKind) return;
+  const int firstValue = mainZone.Chosen() ? FirstMainValue : FirstSecondaryValue;
+  if (action.list.Index() < firstValue) {
+    value.Hide();
+  } else {
+    value.Offer(Text(TextId::ValueCaption), Numbers(1, Zones));
+  }
+}
+
+// --- The cells
+// ------------------------------------------------------------------------------------
+
+Cell ActionPicker::Number(int number) const {
+  if (variant_.form == StoredForm::TwoDigitTexts) return TwoDigits(100 + number);
+  return number;
+}
+
+std::optional<ActionCells> ActionPicker::Compose() const {
+  if (Letter() == '\0') return std::nullopt;
+  const int number = output.list.Index();
+  if (Letter() == ContextLetter) {
+    if (number < 0) return std::nullopt;
+    return ActionCells{int{ContextLetter}, Number(number), "02"};
+  }
+  if (Letter() == CorvelaLetter) {
+    if (number < 0 || action.list.Index() < 0) return std::nullopt;
+    return ActionCells{int{CorvelaLetter}, Number(number), Number(action.list.Index())};
+  }
+  switch (const int kind = Kind()) {
+    case TemperatureKind:
+      return ComposeTemperature();
+    case AudioKind:
+      return ComposeAudio();
+    case SimulationKind:
+      return ComposeSimulation();
+    default:
+      return ComposeOutput(kind);
+  }
+}
+
+std::optional<ActionCells> ActionPicker::ComposeOutput(int kind) const {
+  const int place = action.list.Index();
+  if (FindTarget(kind) == nullptr || output.list.Index() < 0 || place < 0) return std::nullopt;
+  // Percentages are numbers in every form.
+  const Cell what = place < SwitchActions ? Number(place) : Cell((place - 2) * 10);
+  return ActionCells{int{Letter()}, Number(output.list.Index()), what};
+}
+
+std::optional<ActionCells> ActionPicker::ComposeTemperature() const {
+  const auto choice = std::find_if(temperatures.begin(), temperatures.end(),
+                                   [](const auto& each) { return each.option.Chosen(); });
+  if (choice == temperatures.end()) return std::nullopt;
+  const bool needsTemperature = choice->temperature.visible;
+  const bool needsRoom = choice->room.visible;
+  if (needsTemperature && choice->temperature.Index() < 0) return std::nullopt;
+  if (needsRoom && choice->room.Index() < 0) return std::nullopt;
+  const Cell room = needsRoom ? Number(choice->room.Index()) : Cell("8");
+  const Cell degrees = needsTemperature ? Cell(choice->temperature.Index()) : Cell("99");
+  return ActionCells{int{Letter()}, room, degrees};
+}
+
+std::optional<ActionCells> ActionPicker::ComposeAudio() const {
+  const int zone = output.list.Index();
+  const int place = action.list.Index();
+  if (zone < 0 || place < 0) return std::nullopt;
+  const bool main = mainZone.Chosen();
+  const int base = main ? 0 : Zones;
+  const int firstValue = main ? FirstMainValue : FirstSecondaryValue;
+  if (place < firstValue) {
+    return ActionCells{int{Letter()}, Number(zone), Number(place + base)};
+  }
+  if (value.list.Index() < 0) return std::nullopt;
+  const int block = main ? (place - FirstMainValue + 1) * Zones
+                         : SecondaryBlocks[static_cast<std::size_t>(place - FirstSecondaryValue)];
+  return ActionCells{int{Letter()}, Number(block + zone), Number(value.list.Index() + base)};
+}
+
+std::optional<ActionCells> ActionPicker::ComposeSimulation() const {
+  if (!simulationOn.Chosen() && !simulationOff.Chosen()) return std::nullopt;
+  return ActionCells{int{Letter()}, "00", simulationOn.Chosen() ? "01" : "00"};
+}
+
+}  // namespace bkconf

@@ -1,0 +1,147 @@
+// The step-by-step chooser with which every editor composes one action: letter, type, output, what
+// it does, and with which value. The editors' screens hold one or two of them.
+#pragma once
+
+#include <array>
+#include <functional>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "actions/action_code.h"
+#include "platform/field.h"
+#include "text/text.h"
+
+namespace bkconf {
+
+/// An entry of the type list, and the kind of module that it means.
+struct PickerType {
+  TextId name;
+  int kind;
+};
+
+/// In what form numbers that come from the place in a list are stored.
+enum class StoredForm { Numbers, TwoDigitTexts };
+
+/// What the pickers of the editors differ in.
+struct PickerVariant {
+  bool offersContexts;  ///< the letter 'S'
+  TextId prompt;        ///< what the type field shows while the type has to be chosen
+  TextId output;
+  TextId detector;
+  TextId action;
+  TextId context;
+  TextId code;
+  std::span<const PickerType> types;
+  StoredForm form;
+};
+
+inline constexpr auto ButtonPickerTypes = std::to_array<PickerType>({
+    {TextId::RelayType, 0},
+    {TextId::DimType, 1},
+    {TextId::TemperatureType, 2},
+    {TextId::RelayDcType, 4},
+    {TextId::AlarmType, 5},
+    {TextId::AudioType, 6},
+    {TextId::SimulationType, 7},
+    {TextId::LumenzaType, 11},
+});
+
+/// The push-buttons.
+inline constexpr PickerVariant ButtonPicker{true,
+                                            TextId::TypePrompt,
+                                            TextId::OutputCaption,
+                                            TextId::DetectorCaption,
+                                            TextId::ActionCaption,
+                                            TextId::ContextCaption,
+                                            TextId::CodeCaption,
+                                            ButtonPickerTypes,
+                                            StoredForm::Numbers};
+
+/// A list with its caption; both appear and disappear together.
+struct LabelledList {
+  LabelledList(Screen& screen, const std::string& name)
+      : label(screen, name + "Label"), list(screen, name) {
+    Hide();
+  }
+
+  /// Shows the list with these items, and none of them picked.
+  void Offer(std::string_view caption, std::vector<std::string> items);
+  void Hide();
+
+  LabelField label;
+  ListField list;
+};
+
+/// A choice of the temperature fields: what it needs beside it.
+struct TemperatureChoice {
+  TemperatureChoice(Screen& screen, const std::string& name, OptionField* first);
+
+  OptionField option;
+  ListField temperature;
+  ListField room;
+};
+
+class ActionPicker {
+ public:
+  /// The fields' names begin with `prefix`.
+  ActionPicker(Screen& screen, const std::string& prefix, const PickerVariant& variant);
+  ActionPicker(const ActionPicker&) = delete;
+  ActionPicker& operator=(const ActionPicker&) = delete;
+
+  /// Captions in the language of the session, and handlers; once, before the screen is shown.
+  void Load();
+
+  /// Idle: letter and type empty, the letter to be picked, and all below hidden.
+  void Reset();
+  /// The same with nothing to pick.
+  void Close();
+
+  /// The three cells of the action that the fields make up, or none while one of them that its type
+  /// needs is empty.
+  std::optional<ActionCells> Compose() const;
+
+  /// The letter that is picked, or '\0'.
+  char Letter() const;
+
+  LabelField letterLabel;
+  ListField letter;
+  LabelField typeLabel;
+  ListField type;
+  OptionField mainZone, secondaryZone;
+  LabelledList output;
+  LabelledList action;
+  LabelledList value;
+  /// A temperature in a room, the base in a room, a temperature in all rooms, the base in all
+  /// rooms.
+  std::array<TemperatureChoice, 4> temperatures;
+  OptionField simulationOn, simulationOff;
+
+ private:
+  void HideLower();
+  void PickLetter();
+  void PickType();
+  void PickOutput();
+  void PickAction();
+  void OfferContexts();
+  void OfferCodes();
+  void OfferType(int kind);
+  void OfferTemperatures();
+  void OfferZones();
+  void OfferZoneActions();
+  void OfferSimulation();
+  void ShowKind(int kind);
+  void AskType();
+  int Kind() const;
+  Cell Number(int number) const;
+  std::optional<ActionCells> ComposeOutput(int kind) const;
+  std::optional<ActionCells> ComposeTemperature() const;
+  std::optional<ActionCells> ComposeAudio() const;
+  std::optional<ActionCells> ComposeSimulation() const;
+
+  const PickerVariant& variant_;
+};
+
+}  // namespace bkconf

@@ -1,0 +1,12 @@
+#include "image/module_directory.h"
+
+namespace bkconf {
+
+std::optional<int> DirectoryTypeOf(int letter) {
+  for (int row = 0; row < DirectoryRows; ++row) {
+    if (DirectoryLetter(row).Number() == letter) return DirectoryType(row).Whole();
+  }
+  return std::nullopt;
+}
+
+}  // namespace bkconf

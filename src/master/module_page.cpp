@@ -1,0 +1,280 @@
+#include "master/module_page.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+#include "image/commands.h"
+#include "image/module_directory.h"
+#include "link/link_events.h"
+#include "link/transfer.h"
+#include "session/language.h"
+#include "text/windows1252.h"
+
+namespace bkconf {
+
+ModulePageFields::ModulePageFields(Screen& screen)
+    : page(screen, "modulePage"),
+      listLabel(screen, "modulesLabel"),
+      modules(screen, "modules"),
+      scan(screen, "scan"),
+      clockGroup(screen, "clockGroup"),
+      clockText(screen, "clockText"),
+      downLabel(screen, "downLabel"),
+      down(screen, "down"),
+      upLabel(screen, "upLabel"),
+      up(screen, "up"),
+      addGroup(screen, "addGroup"),
+      addHeading(screen, "addHeading"),
+      addLetterLabel(screen, "addLetterLabel"),
+      addLetter(screen, "addLetter"),
+      addTypeLabel(screen, "addTypeLabel"),
+      addType(screen, "addType"),
+      addConfirm(screen, "addConfirm"),
+      addLeave(screen, "addLeave"),
+      deleteGroup(screen, "deleteGroup"),
+      deleteQuestion(screen, "deleteQuestion"),
+      deleteYes(screen, "deleteYes"),
+      deleteNo(screen, "deleteNo") {
+  page.visible = addGroup.visible = deleteGroup.visible = false;
+}
+
+namespace {
+
+constexpr int MasterKind = 9;
+constexpr int LongestCorrection = 15;
+/// Cells of ButtonImage.
+constexpr int DownCell = 120;
+constexpr int UpCell = 121;
+
+struct ListedType {
+  int code;
+  TextId name;
+  TextId nameInAddList;
+};
+
+/// In the order of the list of types to add. Code 9 is the master itself and 10 is free, so the
+/// last place means 11.
+constexpr auto ListedTypes = std::to_array<ListedType>({
+    {0, TextId::RelayType, TextId::RelayType},
+    {1, TextId::DimType, TextId::DimType},
+    {2, TextId::TemperatureListed, TextId::TemperatureType},
+    {3, TextId::DisplayListed, TextId::DisplayListed},
+    {4, TextId::RelayDcType, TextId::RelayDcType},
+    {5, TextId::AlarmType, TextId::AlarmType},
+    {6, TextId::AudioType, TextId::AudioType},
+    {7, TextId::SimulationType, TextId::SimulationType},
+    {8, TextId::IrListed, TextId::IrListed},
+    {11, TextId::LumenzaListed, TextId::LumenzaListed},
+});
+
+ModulePageFields* fields = nullptr;
+/// The row that the question is about.
+int rowToDelete = 0;
+
+void SignalListChange() {
+  MasterBaseDirty = 1;
+  SignalChange();
+}
+
+// --- The list
+// -------------------------------------------------------------------------------------
+
+bool IsFree(const Cell& letter) {
+  return letter.Number() == EmptyCell;
+}
+
+std::string TypeName(const Cell& type) {
+  const auto row =
+      std::find_if(ListedTypes.begin(), ListedTypes.end(),
+                   [&type](const ListedType& each) { return type.Number() == each.code; });
+  return row == ListedTypes.end() || type.IsEmpty() ? "" : std::string(Text(row->name));
+}
+
+/// The first free place ends the list.
+void DrawList() {
+  fields->modules.Blank();
+  for (int row = 0; row < DirectoryRows && !IsFree(DirectoryLetter(row)); ++row) {
+    const int letter = DirectoryLetter(row).Whole();
+    fields->modules.Put(row + 1, 0, std::to_string(row + 1));
+    fields->modules.Put(row + 1, 1, letter < ' ' ? "" : CharacterOf(letter));
+    fields->modules.Put(row + 1, 2, TypeName(DirectoryType(row)));
+  }
+}
+
+void Scan() {
+  for (int row = 0; row < DirectoryRows; ++row) {
+    DirectoryLetter(row) = DirectoryType(row) = EmptyCell;
+  }
+  fields->modules.Blank();
+  fields->addGroup.visible = fields->deleteGroup.visible = false;
+  StartRequest(Test4);
+}
+
+// --- Add and delete
+// -------------------------------------------------------------------------------
+
+void OpenAdd() {
+  fields->addLetter.items.clear();
+  for (char letter = 'A'; letter <= 'R'; ++letter) {
+    if (!DirectoryTypeOf(letter)) fields->addLetter.items.emplace_back(1, letter);
+  }
+  fields->addType.items.clear();
+  for (const ListedType& row : ListedTypes) {
+    fields->addType.items.emplace_back(Text(row.nameInAddList));
+  }
+  fields->addLetter.Clear();
+  fields->addType.Clear();
+  fields->addGroup.visible = true;
+}
+
+/// Any cell of a row that shows something stands for its module.
+void DoubleClick(int row, int) {
+  if (row == 0 || fields->addGroup.visible) return;
+  if (!fields->modules.At(row, 0).empty()) {
+    rowToDelete = row;
+    fields->deleteGroup.visible = true;
+  } else if (!fields->deleteGroup.visible) {
+    OpenAdd();
+  }
+}
+
+/// The first row without a letter, counted from 0; none when all are taken.
+int FirstEmptyRow() {
+  int row = 0;
+  while (row < DirectoryRows && !fields->modules.At(row + 1, 1).empty()) ++row;
+  return row;
+}
+
+void ConfirmAdd() {
+  if (fields->addLetter.Index() < 0 || fields->addType.Index() < 0) return;
+  const int row = FirstEmptyRow();
+  if (row == DirectoryRows) return;
+  DirectoryLetter(row) = static_cast<int>(fields->addLetter.Text().front());
+  DirectoryType(row) = ListedTypes[static_cast<std::size_t>(fields->addType.Index())].code;
+  fields->addGroup.visible = false;
+  DrawList();
+  SignalListChange();
+}
+
+/// What is kept moves up into the free places.
+void PackList() {
+  int kept = 0;
+  for (int row = 0; row < DirectoryRows; ++row) {
+    if (IsFree(DirectoryLetter(row))) continue;
+    DirectoryLetter(kept) = DirectoryLetter(row);
+    DirectoryType(kept) = DirectoryType(row);
+    ++kept;
+  }
+  for (; kept < DirectoryRows; ++kept) {
+    DirectoryLetter(kept) = DirectoryType(kept) = EmptyCell;
+  }
+}
+
+void ConfirmDelete() {
+  DirectoryLetter(rowToDelete - 1) = DirectoryType(rowToDelete - 1) = EmptyCell;
+  PackList();
+  fields->deleteGroup.visible = false;
+  DrawList();
+  SignalListChange();
+}
+
+// --- The clock
+// ------------------------------------------------------------------------------------
+
+void ShowCorrection(ListField& list, const Cell& cell) {
+  const int minutes = cell.Whole();
+  list.Show(std::to_string(minutes < 0 || minutes > LongestCorrection ? 0 : minutes));
+}
+
+/// The clock is set forward or back: one list sets the other to 0.
+void PickCorrection(ListField& list, int cell, ListField& other, int otherCell) {
+  ButtonImage[cell] = list.Index();
+  if (list.Index() > 0) {
+    other.Show("0");
+    ButtonImage[otherCell] = 0;
+  }
+  SignalListChange();
+}
+
+// --- The page
+// -------------------------------------------------------------------------------------
+
+void ShowCaptions() {
+  struct Caption {
+    std::string* text;
+    TextId id;
+  };
+  for (const Caption& row : std::to_array<Caption>({
+           {&fields->page.caption, TextId::ConfigurationTitle},
+           {&fields->listLabel.caption, TextId::PresentModules},
+           {&fields->modules.toolTip, TextId::EditHint},
+           {&fields->scan.caption, TextId::Scan},
+           {&fields->clockGroup.caption, TextId::ClockGroup},
+           {&fields->clockText.caption, TextId::ClockText},
+           {&fields->downLabel.caption, TextId::MinutesDown},
+           {&fields->upLabel.caption, TextId::MinutesUp},
+           {&fields->addGroup.caption, TextId::AddTitle},
+           {&fields->addHeading.caption, TextId::ModuleTypeHeading},
+           {&fields->addLetterLabel.caption, TextId::LetterCaption},
+           {&fields->addTypeLabel.caption, TextId::TypeCaption},
+           {&fields->addConfirm.caption, TextId::Confirm},
+           {&fields->addLeave.caption, TextId::Leave},
+           {&fields->deleteGroup.caption, TextId::DeleteTitle},
+           {&fields->deleteQuestion.caption, TextId::DeleteModule},
+           {&fields->deleteYes.caption, TextId::Yes},
+           {&fields->deleteNo.caption, TextId::No},
+       })) {
+    Show(*row.text, row.id);
+  }
+}
+
+void LayOut() {
+  fields->modules.columns = {{std::string(Text(TextId::ModuleColumn)), 1000},
+                             {std::string(Text(TextId::AddressColumn)), 1000},
+                             {std::string(Text(TextId::TypeColumn)), 2000}};
+  fields->modules.Resize(DirectoryRows);
+  for (ListField* list : {&fields->down, &fields->up}) {
+    list->items.clear();
+    for (int minutes = 0; minutes <= LongestCorrection; ++minutes) {
+      list->items.push_back(std::to_string(minutes));
+    }
+  }
+}
+
+}  // namespace
+
+void LoadModulePage(ModulePageFields& ofWindow) {
+  fields = &ofWindow;
+  ShowCaptions();
+  LayOut();
+  fields->modules.onDoubleClick = DoubleClick;
+  fields->scan.onClick = Scan;
+  fields->down.onPick = [] { PickCorrection(fields->down, DownCell, fields->up, UpCell); };
+  fields->up.onPick = [] { PickCorrection(fields->up, UpCell, fields->down, DownCell); };
+  fields->addConfirm.onClick = ConfirmAdd;
+  fields->addLeave.onClick = [] { fields->addGroup.visible = false; };
+  fields->deleteYes.onClick = ConfirmDelete;
+  fields->deleteNo.onClick = [] { fields->deleteGroup.visible = false; };
+  LinkHandlers[static_cast<std::size_t>(LinkEvent::ModuleListRead)] = DrawList;
+}
+
+void OpenModulePage() {
+  if (ActiveCode() == MasterKind) Window.showModel(*ActiveKind());
+  ShowCorrection(fields->down, ButtonImage[DownCell]);
+  ShowCorrection(fields->up, ButtonImage[UpCell]);
+  DrawList();
+  fields->page.visible = true;
+}
+
+void HideModulePage() {
+  fields->page.visible = fields->addGroup.visible = fields->deleteGroup.visible = false;
+}
+
+void EnableModulePage(bool enabled) {
+  fields->modules.enabled = fields->scan.enabled = enabled;
+  fields->down.enabled = fields->up.enabled = enabled;
+  fields->addConfirm.enabled = fields->deleteYes.enabled = enabled;
+}
+
+}  // namespace bkconf

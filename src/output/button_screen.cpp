@@ -1,0 +1,353 @@
+#include "output/button_screen.h"
+
+#include <array>
+
+#include "actions/action_sentence.h"
+#include "image/tables.h"
+#include "link/transfer.h"
+#include "session/language.h"
+#include "session/module_title.h"
+
+namespace bkconf {
+
+ButtonScreenFields::ButtonScreenFields()
+    : Screen("ButtonScreen"),
+      functionsGroup(*this, "functionsGroup"),
+      listLabel(*this, "listLabel"),
+      buttons(*this, "buttons"),
+      listHint(*this, "listHint"),
+      description(*this, "description"),
+      chooserLabel(*this, "chooserLabel"),
+      chooser(*this, "chooser"),
+      firstGroup(*this, "firstGroup"),
+      first(*this, "first", ButtonPicker),
+      secondGroup(*this, "secondGroup"),
+      noSecond(*this, "noSecond"),
+      second(*this, "second", ButtonPicker),
+      store(*this, "store"),
+      clearFirst(*this, "clearFirst"),
+      clearSecond(*this, "clearSecond"),
+      base(*this, "base"),
+      baseGroup(*this, "baseGroup"),
+      baseQuestion(*this, "baseQuestion"),
+      baseYes(*this, "baseYes"),
+      baseNo(*this, "baseNo"),
+      timeGroup(*this, "timeGroup"),
+      timeLabel(*this, "timeLabel"),
+      time(*this, "time"),
+      seconds(*this, "seconds"),
+      timeHelp(*this, "timeHelp"),
+      leave(*this, "leave") {
+  enter = &store;
+}
+
+Table& ButtonTable() {
+  switch (ActiveCode()) {
+    case 5:
+      return AlarmImage;
+    case 6:
+      return AudioImage;
+    case 7:
+      return SimulationImage;
+    case 8:
+      return IrImage;
+    default:
+      return ButtonImage;
+  }
+}
+
+namespace {
+
+constexpr int Buttons = 20;
+constexpr int TimeCell = 122;
+constexpr int HalfSeconds = 8;
+constexpr int Master = 9;
+
+/// The first of the three cells of a button's function. `button` counts from 0; column 1 holds the
+/// first functions, column 2 the second.
+int CellOf(int button, int column) {
+  return (column - 1) * Buttons * ActionSize + button * ActionSize;
+}
+
+void SignalButtonChange() {
+  // Only a master's Send looks at the flag.
+  MasterBaseDirty = 1;
+  SignalChange();
+}
+
+void FillColumn(int column) {
+  for (int button = 0; button < Buttons; ++button) {
+    ButtonScreen.buttons.Put(button + 1, column,
+                             NormalisedActionCode(ButtonTable(), CellOf(button, column)));
+  }
+}
+
+void FillList() {
+  FillColumn(1);
+  FillColumn(2);
+}
+
+// --- One function
+// ---------------------------------------------------------------------------------
+
+void ShowDescription(int row, int column) {
+  const std::string& code = ButtonScreen.buttons.At(row, column);
+  ButtonScreen.description.caption = ActiveCode() == Master
+                                         ? MasterActionSentence(code, MasterSentences)
+                                         : OwnActionSentence(code);
+}
+
+void PickButton() {
+  ButtonScreen.noSecond.checked = false;
+  ButtonScreen.noSecond.enabled = true;
+  ButtonScreen.first.Reset();
+  ButtonScreen.second.Reset();
+  ButtonScreen.store.enabled = true;
+}
+
+void ChangeNoSecond() {
+  if (ButtonScreen.noSecond.checked) {
+    ButtonScreen.second.Close();
+  } else {
+    ButtonScreen.second.Reset();
+  }
+}
+
+void ResetClearBoxes() {
+  for (CheckField* box : {&ButtonScreen.clearFirst, &ButtonScreen.clearSecond}) {
+    box->checked = false;
+    box->enabled = true;
+  }
+}
+
+void Put(int cell, const ActionCells& cells) {
+  for (int i = 0; i < ActionSize; ++i) {
+    ButtonTable()[cell + i] = cells[static_cast<std::size_t>(i)];
+  }
+}
+
+/// Fields that are not complete leave the function as it was.
+void StoreFunctions(int button) {
+  if (const auto cells = ButtonScreen.first.Compose()) Put(CellOf(button, 1), *cells);
+  if (ButtonScreen.noSecond.checked) {
+    Put(CellOf(button, 2), {"*", "*", "*"});
+  } else if (const auto second = ButtonScreen.second.Compose()) {
+    Put(CellOf(button, 2), *second);
+  }
+}
+
+void Store() {
+  const int button = ButtonScreen.chooser.Index();
+  if (button < 0) return;
+  ButtonScreen.description.caption.clear();
+  SignalButtonChange();
+  ButtonScreen.store.enabled = false;
+  ResetClearBoxes();
+  StoreFunctions(button);
+  FillList();
+}
+
+void DoubleClick(int row, int column) {
+  if (row == 0) return;
+  if (column == 0) {
+    ButtonScreen.chooser.Pick(row - 1);
+    return;
+  }
+  ButtonScreen.description.caption.clear();
+  EraseAction(ButtonTable(), CellOf(row - 1, column));
+  ButtonScreen.buttons.Put(row, column, ActionEmptyText);
+  SignalButtonChange();
+}
+
+// --- All functions
+// --------------------------------------------------------------------------------
+
+/// The box stays ticked until the next store.
+void ClearAll(CheckField& box, int column) {
+  if (!box.checked) return;
+  box.enabled = false;
+  for (int button = 0; button < Buttons; ++button) {
+    EraseAction(ButtonTable(), CellOf(button, column));
+    ButtonScreen.buttons.Put(button + 1, column, ActionEmptyText);
+  }
+  SignalButtonChange();
+}
+
+/// How many buttons get the toggling of the output of their own number; the others become empty.
+struct BaseFunctions {
+  KindSet kinds;
+  int first;
+  int second;
+};
+
+constexpr auto BaseRows = std::to_array<BaseFunctions>({
+    {{1}, 4, 4},
+    {{11}, 8, 4},
+    {{0, 4, 5, 6, 7, 8}, 12, 0},
+});
+
+void AssignBase(int column, int count) {
+  constexpr int toggle = 2;
+  const Cell letter = OwnAddress();
+  for (int button = 0; button < Buttons; ++button) {
+    const int cell = CellOf(button, column);
+    if (button < count) {
+      Put(cell, {letter, button, toggle});
+    } else {
+      EraseAction(ButtonTable(), cell);
+    }
+  }
+}
+
+/// Simpler than the usual fill, and meant to be so: 'Z' counts as empty, and the value is shown as
+/// it is stored.
+void FillPlainly(int column) {
+  Table& table = ButtonTable();
+  for (int button = 0; button < Buttons; ++button) {
+    const int cell = CellOf(button, column);
+    std::string code(ActionEmptyText);
+    if (HoldsAction(table[cell]) && table[cell].Number() != CorvelaLetter) {
+      code = ActionCode(table[cell], table[cell + 1], table[cell + 2], ValueForm::AsStored);
+    } else {
+      EraseAction(table, cell);
+    }
+    ButtonScreen.buttons.Put(button + 1, column, code);
+  }
+}
+
+void CloseBaseQuestion() {
+  MasterBaseDirty = 1;
+  ButtonScreen.baseGroup.visible = false;
+}
+
+void AssignBaseFunctions() {
+  for (const BaseFunctions& row : BaseRows) {
+    if (!row.kinds.Contains(ActiveCode())) continue;
+    AssignBase(1, row.first);
+    AssignBase(2, row.second);
+  }
+  FillPlainly(1);
+  FillPlainly(2);
+  SignalChange();
+  CloseBaseQuestion();
+}
+
+// --- The press time
+// -------------------------------------------------------------------------------
+
+/// The longest first; the list's place and the half seconds of the cell run against each other.
+void ShowTime() {
+  const double halfSeconds = ButtonTable()[TimeCell].Number();
+  const int place = HalfSeconds - ButtonTable()[TimeCell].Whole();
+  const bool known = halfSeconds == ButtonTable()[TimeCell].Whole() && place >= 0 &&
+                     place < static_cast<int>(ButtonScreen.time.items.size());
+  ButtonScreen.time.Show(known ? ButtonScreen.time.items[static_cast<std::size_t>(place)] : "");
+}
+
+void PickTime() {
+  ButtonTable()[TimeCell] = HalfSeconds - ButtonScreen.time.Index();
+  SignalButtonChange();
+}
+
+// --- Opening
+// --------------------------------------------------------------------------------------
+
+/// The caption is made of three texts.
+std::string ClearCaption(TextId which) {
+  return std::string(Text(TextId::ClearFunctions)) + " " + std::string(Text(which)) + " " +
+         std::string(Text(TextId::ClearFunctionsEnd));
+}
+
+void ShowCaptions() {
+  struct Caption {
+    Field* field;
+    TextId text;
+  };
+  for (const Caption& row : std::to_array<Caption>({
+           {&ButtonScreen.listLabel, TextId::ButtonList},
+           {&ButtonScreen.listHint, TextId::ButtonListHint},
+           {&ButtonScreen.chooserLabel, TextId::ButtonChooser},
+           {&ButtonScreen.firstGroup, TextId::FirstFunction},
+           {&ButtonScreen.secondGroup, TextId::SecondFunction},
+           {&ButtonScreen.noSecond, TextId::NoSecondFunction},
+           {&ButtonScreen.store, TextId::StoreFunction},
+           {&ButtonScreen.base, TextId::BaseFunctions},
+           {&ButtonScreen.baseGroup, TextId::BaseFunctionsTitle},
+           {&ButtonScreen.baseQuestion, TextId::BaseFunctionsQuestion},
+           {&ButtonScreen.baseYes, TextId::Yes},
+           {&ButtonScreen.baseNo, TextId::No},
+           {&ButtonScreen.timeLabel, TextId::SecondFunctionTimeLabel},
+           {&ButtonScreen.seconds, TextId::Seconds},
+           {&ButtonScreen.timeHelp, TextId::SecondFunctionTimeHelp},
+           {&ButtonScreen.leave, TextId::Leave},
+       })) {
+    Show(row.field->caption, row.text);
+  }
+  ButtonScreen.clearFirst.caption = ClearCaption(TextId::ClearFirstFunctions);
+  ButtonScreen.clearSecond.caption = ClearCaption(TextId::ClearSecondFunctions);
+}
+
+void LayOutList() {
+  GridField& list = ButtonScreen.buttons;
+  list.rowHeader = true;
+  list.columns = {{"", 3},
+                  {std::string(Text(TextId::FirstColumn)), 2},
+                  {std::string(Text(TextId::SecondColumn)), 2}};
+  list.Resize(Buttons);
+  ButtonScreen.chooser.items.clear();
+  for (int button = 1; button <= Buttons; ++button) {
+    list.Put(button, 0, std::string(Text(TextId::ButtonNumber)) + std::to_string(button));
+    ButtonScreen.chooser.items.push_back(std::to_string(button));
+  }
+}
+
+void Open(bool functions) {
+  ButtonScreen.title = ModuleTitle();
+  ButtonScreen.functionsGroup.visible = functions;
+  ButtonScreen.timeGroup.visible = !functions;
+  ButtonScreen.baseGroup.visible = false;
+  ButtonScreen.description.caption.clear();
+  ButtonScreen.buttons.ClearSelection();
+  ButtonScreen.chooser.Clear();
+  ButtonScreen.first.Close();
+  ButtonScreen.second.Close();
+  ButtonScreen.noSecond.checked = ButtonScreen.noSecond.enabled = false;
+  ButtonScreen.store.enabled = false;
+  ResetClearBoxes();
+  ButtonScreen.shown = true;
+}
+
+}  // namespace
+
+void LoadButtonScreen() {
+  ShowCaptions();
+  LayOutList();
+  ButtonScreen.time.items = {"4", "3,5", "3", "2,5", "2", "1,5", "1", "0,5"};
+  ButtonScreen.first.Load();
+  ButtonScreen.second.Load();
+  ButtonScreen.buttons.onSelect = ShowDescription;
+  ButtonScreen.buttons.onDoubleClick = DoubleClick;
+  ButtonScreen.chooser.onPick = PickButton;
+  ButtonScreen.noSecond.onChange = ChangeNoSecond;
+  ButtonScreen.store.onClick = Store;
+  ButtonScreen.clearFirst.onChange = [] { ClearAll(ButtonScreen.clearFirst, 1); };
+  ButtonScreen.clearSecond.onChange = [] { ClearAll(ButtonScreen.clearSecond, 2); };
+  ButtonScreen.base.onClick = [] { ButtonScreen.baseGroup.visible = true; };
+  ButtonScreen.baseYes.onClick = AssignBaseFunctions;
+  ButtonScreen.baseNo.onClick = CloseBaseQuestion;
+  ButtonScreen.time.onPick = PickTime;
+  ButtonScreen.time.onTyped = [] { ButtonScreen.time.Clear(); };
+  ButtonScreen.leave.onClick = [] { ButtonScreen.Close(); };
+}
+
+void OpenButtonScreen() {
+  FillList();
+  Open(true);
+}
+
+void OpenSecondFunctionTime() {
+  ShowTime();
+  Open(false);
+}
+
+}  // namespace bkconf

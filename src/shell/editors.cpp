@@ -1,0 +1,37 @@
+#include "shell/editors.h"
+
+#include <array>
+
+#include "master/module_page.h"
+#include "output/button_screen.h"
+#include "output/output_screen.h"
+#include "shell/action_buttons.h"
+
+namespace bkconf {
+namespace {
+
+struct Opener {
+  Action action;
+  void (*open)();
+};
+
+constexpr auto Openers = std::to_array<Opener>({
+    {Action::Buttons, OpenButtonScreen},
+    {Action::SecondFunctionTime, OpenSecondFunctionTime},
+    {Action::OutputFunctions, OpenOutputScreen},
+    {Action::DimStartValues, OpenOutputScreen},
+    {Action::Configuration, OpenModulePage},
+});
+
+constexpr auto Loaders = std::to_array<void (*)()>({LoadButtonScreen, LoadOutputScreen});
+
+}  // namespace
+
+void LoadEditors() {
+  for (void (*load)() : Loaders) load();
+  for (const Opener& row : Openers) {
+    ActionHandlers[static_cast<std::size_t>(row.action)] = row.open;
+  }
+}
+
+}  // namespace bkconf
