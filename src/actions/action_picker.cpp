@@ -78,6 +78,16 @@ constexpr int HighestTemperature = 40;
 constexpr int Contexts = 50;
 constexpr int Codes = 99;
 
+/// What the first row of the master's list tells that has the letter and one of these kinds. Rows
+/// of other modules, and rows without a kind, are passed over.
+std::optional<int> ListedKindOf(char letter) {
+  for (int row = 0; row < DirectoryRows; ++row) {
+    const auto kind = DirectoryType(row).WholeNumber();
+    if (DirectoryLetter(row).Number() == letter && kind && ListedKinds.Contains(*kind)) return kind;
+  }
+  return std::nullopt;
+}
+
 std::string Say(TextId id) {
   return std::string(Text(id));
 }
@@ -198,11 +208,13 @@ void ActionPicker::Reset() {
   letter.enabled = true;
   type.Clear();
   type.enabled = false;
+  type.visible = typeLabel.visible = true;
 }
 
 void ActionPicker::Close() {
   Reset();
   letter.enabled = false;
+  type.visible = typeLabel.visible = false;
 }
 
 char ActionPicker::Letter() const {
@@ -222,8 +234,7 @@ void ActionPicker::HideLower() {
   }
 }
 
-// --- The letter
-// -----------------------------------------------------------------------------------
+// --- The letter ---------------------------------------------------------------------------------
 
 void ActionPicker::PickLetter() {
   HideLower();
@@ -233,8 +244,7 @@ void ActionPicker::PickLetter() {
   } else if (Letter() == CorvelaLetter) {
     OfferCodes();
   } else if (!PlainImages.Contains(ActiveCode())) {
-    const auto kind = DirectoryTypeOf(Letter());
-    if (kind && ListedKinds.Contains(*kind)) ShowKind(*kind);
+    if (const auto kind = ListedKindOf(Letter())) ShowKind(*kind);
   } else if (CharacterOf(OwnAddress().Whole()) == letter.Text()) {
     // A DC relay module shows itself as a relay module here; both are stored alike.
     ShowKind(ActiveCode() == RelayDcKind ? RelayKind : ActiveCode());
@@ -276,8 +286,7 @@ void ActionPicker::OfferCodes() {
   action.Offer(Text(variant_.code), CodeNumbers());
 }
 
-// --- The type
-// -------------------------------------------------------------------------------------
+// --- The type -----------------------------------------------------------------------------------
 
 int ActionPicker::Kind() const {
   if (type.Index() < 0) return NoModule;
@@ -332,8 +341,7 @@ void ActionPicker::OfferSimulation() {
   simulationOn.visible = simulationOff.visible = true;
 }
 
-// --- Below
-// ----------------------------------------------------------------------------------------
+// --- Below --------------------------------------------------------------------------------------
 
 void ActionPicker::PickOutput() {
   const Target* target = FindTarget(Kind());
@@ -353,8 +361,7 @@ void ActionPicker::PickAction() {
   }
 }
 
-// --- The cells
-// ------------------------------------------------------------------------------------
+// --- The cells ----------------------------------------------------------------------------------
 
 Cell ActionPicker::Number(int number) const {
   if (variant_.form == StoredForm::TwoDigitTexts) return TwoDigits(100 + number);

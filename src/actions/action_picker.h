@@ -96,7 +96,7 @@ class ActionPicker {
 
   /// Idle: letter and type empty, the letter to be picked, and all below hidden.
   void Reset();
-  /// The same with nothing to pick.
+  /// The same with nothing to pick, and the type hidden as well.
   void Close();
 
   /// The three cells of the action that the fields make up, or none while one of them that its type

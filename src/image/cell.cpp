@@ -45,6 +45,12 @@ double Cell::Number() const {
   return 0;
 }
 
+std::optional<int> Cell::WholeNumber() const {
+  const bool counts = IsNumber() || (IsText() && ReadsAsNumber(Text()));
+  if (!counts || Number() != Whole()) return std::nullopt;
+  return Whole();
+}
+
 int Cell::Whole() const {
   constexpr double lowest = std::numeric_limits<int>::min();
   constexpr double highest = std::numeric_limits<int>::max();

@@ -29,6 +29,9 @@ class Cell {
   /// The number, the number that a digit text reads as, or 0. Text that does not read as a number,
   /// "*" too, counts as 0.
   double Number() const;
+  /// The whole number that the cell holds, also as digits; none for a word, a fraction, what is
+  /// beyond the range of int, and an empty cell.
+  std::optional<int> WholeNumber() const;
   /// `Number` without its fraction; beyond the range of int, the nearest end of the range.
   int Whole() const;
   /// The string as it stands, or the plain decimal text of the number, or "".

@@ -4,7 +4,7 @@ namespace bkconf {
 
 std::optional<int> DirectoryTypeOf(int letter) {
   for (int row = 0; row < DirectoryRows; ++row) {
-    if (DirectoryLetter(row).Number() == letter) return DirectoryType(row).Whole();
+    if (DirectoryLetter(row).Number() == letter) return DirectoryType(row).WholeNumber();
   }
   return std::nullopt;
 }

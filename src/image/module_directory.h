@@ -22,7 +22,7 @@ inline Cell& DirectoryType(int row) {
   return ButtonImage[FirstDirectoryType + row];
 }
 
-/// The kind in the first row with that letter, or none.
+/// The kind in the first row with that letter; none where there is no such row, or no kind in it.
 std::optional<int> DirectoryTypeOf(int letter);
 
 }  // namespace bkconf

@@ -13,30 +13,33 @@
 
 namespace bkconf {
 
-ModulePageFields::ModulePageFields(Screen& screen)
-    : page(screen, "modulePage"),
-      listLabel(screen, "modulesLabel"),
-      modules(screen, "modules"),
-      scan(screen, "scan"),
-      clockGroup(screen, "clockGroup"),
-      clockText(screen, "clockText"),
-      downLabel(screen, "downLabel"),
-      down(screen, "down"),
-      upLabel(screen, "upLabel"),
-      up(screen, "up"),
-      addGroup(screen, "addGroup"),
-      addHeading(screen, "addHeading"),
-      addLetterLabel(screen, "addLetterLabel"),
-      addLetter(screen, "addLetter"),
-      addTypeLabel(screen, "addTypeLabel"),
-      addType(screen, "addType"),
-      addConfirm(screen, "addConfirm"),
-      addLeave(screen, "addLeave"),
-      deleteGroup(screen, "deleteGroup"),
-      deleteQuestion(screen, "deleteQuestion"),
-      deleteYes(screen, "deleteYes"),
-      deleteNo(screen, "deleteNo") {
+ModulePageFields::ModulePageFields(Screen& ofScreen)
+    : screen(ofScreen),
+      page(ofScreen, "modulePage"),
+      listLabel(ofScreen, "modulesLabel"),
+      modules(ofScreen, "modules"),
+      scan(ofScreen, "scan"),
+      clockGroup(ofScreen, "clockGroup"),
+      clockText(ofScreen, "clockText"),
+      downLabel(ofScreen, "downLabel"),
+      down(ofScreen, "down"),
+      upLabel(ofScreen, "upLabel"),
+      up(ofScreen, "up"),
+      addGroup(ofScreen, "addGroup"),
+      addHeading(ofScreen, "addHeading"),
+      addLetterLabel(ofScreen, "addLetterLabel"),
+      addLetter(ofScreen, "addLetter"),
+      addTypeLabel(ofScreen, "addTypeLabel"),
+      addType(ofScreen, "addType"),
+      addConfirm(ofScreen, "addConfirm"),
+      addLeave(ofScreen, "addLeave"),
+      deleteGroup(ofScreen, "deleteGroup"),
+      deleteQuestion(ofScreen, "deleteQuestion"),
+      deleteYes(ofScreen, "deleteYes"),
+      deleteNo(ofScreen, "deleteNo") {
   page.visible = addGroup.visible = deleteGroup.visible = false;
+  // The heading stands over both lists; these are what a screen reader calls them.
+  addLetterLabel.visible = addTypeLabel.visible = false;
 }
 
 namespace {
@@ -77,18 +80,28 @@ void SignalListChange() {
   SignalChange();
 }
 
-// --- The list
-// -------------------------------------------------------------------------------------
+/// Question and panel to add exclude each other; null closes both. Enter and Escape mean the
+/// buttons of the one that is open.
+void ShowPanel(const GroupField* panel) {
+  const bool adds = panel == &fields->addGroup;
+  const bool asks = panel == &fields->deleteGroup;
+  fields->addGroup.visible = adds;
+  fields->deleteGroup.visible = asks;
+  fields->screen.enter = adds ? &fields->addConfirm : asks ? &fields->deleteYes : nullptr;
+  fields->screen.escape = adds ? &fields->addLeave : asks ? &fields->deleteNo : nullptr;
+}
+
+// --- The list -----------------------------------------------------------------------------------
 
 bool IsFree(const Cell& letter) {
   return letter.Number() == EmptyCell;
 }
 
 std::string TypeName(const Cell& type) {
-  const auto row =
-      std::find_if(ListedTypes.begin(), ListedTypes.end(),
-                   [&type](const ListedType& each) { return type.Number() == each.code; });
-  return row == ListedTypes.end() || type.IsEmpty() ? "" : std::string(Text(row->name));
+  const auto code = type.WholeNumber();
+  const auto row = std::find_if(ListedTypes.begin(), ListedTypes.end(),
+                                [code](const ListedType& each) { return code == each.code; });
+  return row == ListedTypes.end() ? "" : std::string(Text(row->name));
 }
 
 /// The first free place ends the list.
@@ -107,12 +120,11 @@ void Scan() {
     DirectoryLetter(row) = DirectoryType(row) = EmptyCell;
   }
   fields->modules.Blank();
-  fields->addGroup.visible = fields->deleteGroup.visible = false;
+  ShowPanel(nullptr);
   StartRequest(Test4);
 }
 
-// --- Add and delete
-// -------------------------------------------------------------------------------
+// --- Add and delete -----------------------------------------------------------------------------
 
 void OpenAdd() {
   fields->addLetter.items.clear();
@@ -125,7 +137,7 @@ void OpenAdd() {
   }
   fields->addLetter.Clear();
   fields->addType.Clear();
-  fields->addGroup.visible = true;
+  ShowPanel(&fields->addGroup);
 }
 
 /// Any cell of a row that shows something stands for its module.
@@ -133,7 +145,7 @@ void DoubleClick(int row, int) {
   if (row == 0 || fields->addGroup.visible) return;
   if (!fields->modules.At(row, 0).empty()) {
     rowToDelete = row;
-    fields->deleteGroup.visible = true;
+    ShowPanel(&fields->deleteGroup);
   } else if (!fields->deleteGroup.visible) {
     OpenAdd();
   }
@@ -152,7 +164,7 @@ void ConfirmAdd() {
   if (row == DirectoryRows) return;
   DirectoryLetter(row) = static_cast<int>(fields->addLetter.Text().front());
   DirectoryType(row) = ListedTypes[static_cast<std::size_t>(fields->addType.Index())].code;
-  fields->addGroup.visible = false;
+  ShowPanel(nullptr);
   DrawList();
   SignalListChange();
 }
@@ -172,15 +184,15 @@ void PackList() {
 }
 
 void ConfirmDelete() {
+  if (!fields->deleteGroup.visible) return;
   DirectoryLetter(rowToDelete - 1) = DirectoryType(rowToDelete - 1) = EmptyCell;
   PackList();
-  fields->deleteGroup.visible = false;
+  ShowPanel(nullptr);
   DrawList();
   SignalListChange();
 }
 
-// --- The clock
-// ------------------------------------------------------------------------------------
+// --- The clock ----------------------------------------------------------------------------------
 
 void ShowCorrection(ListField& list, const Cell& cell) {
   const int minutes = cell.Whole();
@@ -197,8 +209,7 @@ void PickCorrection(ListField& list, int cell, ListField& other, int otherCell) 
   SignalListChange();
 }
 
-// --- The page
-// -------------------------------------------------------------------------------------
+// --- The page -----------------------------------------------------------------------------------
 
 void ShowCaptions() {
   struct Caption {
@@ -253,9 +264,9 @@ void LoadModulePage(ModulePageFields& ofWindow) {
   fields->down.onPick = [] { PickCorrection(fields->down, DownCell, fields->up, UpCell); };
   fields->up.onPick = [] { PickCorrection(fields->up, UpCell, fields->down, DownCell); };
   fields->addConfirm.onClick = ConfirmAdd;
-  fields->addLeave.onClick = [] { fields->addGroup.visible = false; };
+  fields->addLeave.onClick = [] { ShowPanel(nullptr); };
   fields->deleteYes.onClick = ConfirmDelete;
-  fields->deleteNo.onClick = [] { fields->deleteGroup.visible = false; };
+  fields->deleteNo.onClick = [] { ShowPanel(nullptr); };
   LinkHandlers[static_cast<std::size_t>(LinkEvent::ModuleListRead)] = DrawList;
 }
 
@@ -268,13 +279,18 @@ void OpenModulePage() {
 }
 
 void HideModulePage() {
-  fields->page.visible = fields->addGroup.visible = fields->deleteGroup.visible = false;
+  fields->page.visible = false;
+  ShowPanel(nullptr);
 }
 
 void EnableModulePage(bool enabled) {
   fields->modules.enabled = fields->scan.enabled = enabled;
   fields->down.enabled = fields->up.enabled = enabled;
-  fields->addConfirm.enabled = fields->deleteYes.enabled = enabled;
+  fields->addLetter.enabled = fields->addType.enabled = enabled;
+  for (ButtonField* button :
+       {&fields->addConfirm, &fields->addLeave, &fields->deleteYes, &fields->deleteNo}) {
+    button->enabled = enabled;
+  }
 }
 
 }  // namespace bkconf

@@ -7,7 +7,9 @@
 namespace bkconf {
 
 struct ModulePageFields {
-  explicit ModulePageFields(Screen& screen);
+  explicit ModulePageFields(Screen& ofScreen);
+
+  Screen& screen;  ///< that they lie in
 
   GroupField page;
   LabelField listLabel;

@@ -87,14 +87,18 @@ void FillList() {
   FillColumn(2);
 }
 
-// --- One function
-// ---------------------------------------------------------------------------------
+// --- One function -------------------------------------------------------------------------------
 
 void ShowDescription(int row, int column) {
   const std::string& code = ButtonScreen.buttons.At(row, column);
   ButtonScreen.description.caption = ActiveCode() == Master
                                          ? MasterActionSentence(code, MasterSentences)
                                          : OwnActionSentence(code);
+}
+
+/// What the selected function is after all of them were changed.
+void ShowCurrentDescription() {
+  ShowDescription(ButtonScreen.buttons.CurrentRow(), ButtonScreen.buttons.CurrentColumn());
 }
 
 void PickButton() {
@@ -159,8 +163,7 @@ void DoubleClick(int row, int column) {
   SignalButtonChange();
 }
 
-// --- All functions
-// --------------------------------------------------------------------------------
+// --- All functions ------------------------------------------------------------------------------
 
 /// The box stays ticked until the next store.
 void ClearAll(CheckField& box, int column) {
@@ -170,6 +173,7 @@ void ClearAll(CheckField& box, int column) {
     EraseAction(ButtonTable(), CellOf(button, column));
     ButtonScreen.buttons.Put(button + 1, column, ActionEmptyText);
   }
+  ShowCurrentDescription();
   SignalButtonChange();
 }
 
@@ -215,9 +219,14 @@ void FillPlainly(int column) {
   }
 }
 
+void ShowBaseQuestion(bool shown) {
+  ButtonScreen.baseGroup.visible = shown;
+  ButtonScreen.escape = shown ? &ButtonScreen.baseNo : nullptr;
+}
+
 void CloseBaseQuestion() {
   MasterBaseDirty = 1;
-  ButtonScreen.baseGroup.visible = false;
+  ShowBaseQuestion(false);
 }
 
 void AssignBaseFunctions() {
@@ -228,20 +237,19 @@ void AssignBaseFunctions() {
   }
   FillPlainly(1);
   FillPlainly(2);
+  ShowCurrentDescription();
   SignalChange();
   CloseBaseQuestion();
 }
 
-// --- The press time
-// -------------------------------------------------------------------------------
+// --- The press time -----------------------------------------------------------------------------
 
 /// The longest first; the list's place and the half seconds of the cell run against each other.
 void ShowTime() {
-  const double halfSeconds = ButtonTable()[TimeCell].Number();
-  const int place = HalfSeconds - ButtonTable()[TimeCell].Whole();
-  const bool known = halfSeconds == ButtonTable()[TimeCell].Whole() && place >= 0 &&
-                     place < static_cast<int>(ButtonScreen.time.items.size());
-  ButtonScreen.time.Show(known ? ButtonScreen.time.items[static_cast<std::size_t>(place)] : "");
+  const int halfSeconds = ButtonTable()[TimeCell].WholeNumber().value_or(0);
+  const bool known = halfSeconds >= 1 && halfSeconds <= HalfSeconds;
+  const auto place = static_cast<std::size_t>(known ? HalfSeconds - halfSeconds : 0);
+  ButtonScreen.time.Show(known ? ButtonScreen.time.items[place] : "");
 }
 
 void PickTime() {
@@ -249,8 +257,16 @@ void PickTime() {
   SignalButtonChange();
 }
 
-// --- Opening
-// --------------------------------------------------------------------------------------
+/// One of the texts of the list is as good as a pick; any other is cleared at once.
+void TypeTime() {
+  if (ButtonScreen.time.Index() < 0) {
+    ButtonScreen.time.Clear();
+  } else {
+    PickTime();
+  }
+}
+
+// --- Opening ------------------------------------------------------------------------------------
 
 /// The caption is made of three texts.
 std::string ClearCaption(TextId which) {
@@ -305,7 +321,7 @@ void Open(bool functions) {
   ButtonScreen.title = ModuleTitle();
   ButtonScreen.functionsGroup.visible = functions;
   ButtonScreen.timeGroup.visible = !functions;
-  ButtonScreen.baseGroup.visible = false;
+  ShowBaseQuestion(false);
   ButtonScreen.description.caption.clear();
   ButtonScreen.buttons.ClearSelection();
   ButtonScreen.chooser.Clear();
@@ -332,11 +348,11 @@ void LoadButtonScreen() {
   ButtonScreen.store.onClick = Store;
   ButtonScreen.clearFirst.onChange = [] { ClearAll(ButtonScreen.clearFirst, 1); };
   ButtonScreen.clearSecond.onChange = [] { ClearAll(ButtonScreen.clearSecond, 2); };
-  ButtonScreen.base.onClick = [] { ButtonScreen.baseGroup.visible = true; };
+  ButtonScreen.base.onClick = [] { ShowBaseQuestion(true); };
   ButtonScreen.baseYes.onClick = AssignBaseFunctions;
   ButtonScreen.baseNo.onClick = CloseBaseQuestion;
   ButtonScreen.time.onPick = PickTime;
-  ButtonScreen.time.onTyped = [] { ButtonScreen.time.Clear(); };
+  ButtonScreen.time.onTyped = TypeTime;
   ButtonScreen.leave.onClick = [] { ButtonScreen.Close(); };
 }
 

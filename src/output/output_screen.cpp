@@ -71,14 +71,12 @@ std::string Say(TextId id) {
 }
 
 const OutputFunction* FindFunction(const Cell& code) {
-  const int place = code.Whole();
-  const bool known = !code.IsEmpty() && code.Number() == place && place >= 0 &&
-                     place < static_cast<int>(Functions.size());
+  const int place = code.WholeNumber().value_or(-1);
+  const bool known = place >= 0 && place < static_cast<int>(Functions.size());
   return known ? &Functions[static_cast<std::size_t>(place)] : nullptr;
 }
 
-// --- Functions of outputs
-// -------------------------------------------------------------------------
+// --- Functions of outputs -----------------------------------------------------------------------
 
 std::string FunctionText(const OutputFunction& function, int output, TextId timedName) {
   if (function.linkedName) {
@@ -138,8 +136,7 @@ void ConfirmFunction() {
   DrawFunctions(TextId::OnOffTimed);
 }
 
-// --- Start values
-// ---------------------------------------------------------------------------------
+// --- Start values -------------------------------------------------------------------------------
 
 void DrawStartValues() {
   for (int channel = 0; channel < Channels; ++channel) {
@@ -150,6 +147,7 @@ void DrawStartValues() {
 }
 
 void ConfirmStart() {
+  if (!OutputScreen.shown) return;
   const int channel = OutputScreen.channel.Index();
   if (channel < 0 || OutputScreen.start.Index() < 0) return;
   ButtonImage[StartCell + channel] = OutputScreen.start.Index() + 1;
@@ -168,8 +166,7 @@ void DrawPlainOutputs() {
   }
 }
 
-// --- Opening
-// --------------------------------------------------------------------------------------
+// --- Opening ------------------------------------------------------------------------------------
 
 void ShowCaptions() {
   struct Caption {
@@ -249,6 +246,8 @@ void LoadOutputScreen() {
   OutputScreen.confirm.onClick = ConfirmFunction;
   OutputScreen.confirmStart.onClick = ConfirmStart;
   OutputScreen.leave.onClick = [] { OutputScreen.Close(); };
+  OutputScreen.functionsGroup.visible = OutputScreen.editGroup.visible = false;
+  OutputScreen.startGroup.visible = OutputScreen.startEditGroup.visible = false;
 }
 
 void OpenOutputScreen() {

@@ -75,7 +75,7 @@ OptionField::OptionField(Screen& screen, std::string_view fieldName, OptionField
 }
 
 void OptionField::Choose() {
-  if (!enabled || !visible) return;
+  if (!enabled || !visible || chosen_) return;
   Show();
   if (onChoose) onChoose();
 }
@@ -123,7 +123,8 @@ void GridField::Select(int row, int column) {
 }
 
 void GridField::DoubleClick(int row, int column) {
-  if (!enabled || !visible) return;
+  const bool onCaptions = row == 0 && column >= 0 && column < static_cast<int>(columns.size());
+  if (!enabled || !visible || !(onCaptions || Has(row, column))) return;
   Select(row, column);
   if (onDoubleClick) onDoubleClick(row, column);
 }

@@ -160,7 +160,8 @@ struct OptionField : Field {
   std::function<void()> onChoose;  ///< runs after the user has taken it
 
   bool Chosen() const { return chosen_; }
-  /// Takes the choice, as a user does: no other of its group is taken then.
+  /// Takes the choice, as a user does: no other of its group is taken then. One that is taken
+  /// already stays so and runs no handler.
   void Choose();
   /// Shows it as taken, without running the handler.
   void Show();
@@ -207,7 +208,8 @@ struct GridField : Field {
   /// Makes a cell current and runs the handler. Captions, headers and what lies outside are never
   /// current.
   void Select(int row, int column);
-  /// Selects the cell, where it can be, and runs the handler of the double click.
+  /// Selects the cell, where it can be, and runs the handler of the double click. Outside the table
+  /// and its captions nothing happens.
   void DoubleClick(int row, int column);
   /// No cell is current any more.
   void ClearSelection() { row_ = column_ = 0; }
@@ -310,7 +312,8 @@ struct Screen {
   std::vector<Field*> fields;
   /// What closing the window does; without a handler the screen is just not shown any more.
   std::function<void()> onClose;
-  const ButtonField* enter = nullptr;  ///< what Enter presses while no button has the focus
+  const ButtonField* enter = nullptr;   ///< what Enter presses while no button has the focus
+  const ButtonField* escape = nullptr;  ///< what Escape presses, in place of closing the window
   const Field* firstFocus = nullptr;  ///< where the keyboard is on opening; else in the first field
 
   void Close();
