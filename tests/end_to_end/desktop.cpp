@@ -142,6 +142,16 @@ std::optional<Widget> Desktop::FindDescribed(std::string_view role, std::string_
   return std::nullopt;
 }
 
+std::optional<Widget> Desktop::FindList(const ListPlace& place) const {
+  int number = 0;
+  for (const Widget& widget : Widgets()) {
+    const bool labelled = widget.role == "combo box" && widget.description.starts_with(place.label);
+    const bool inside = place.group.empty() || widget.group == place.group;
+    if (labelled && inside && ++number == place.number) return widget;
+  }
+  return std::nullopt;
+}
+
 void Desktop::Click(const Widget& widget) const {
   RunToEnd(ClickAt(widget, {"1"}), scratch_ / "xdotool.txt");
 }
@@ -187,6 +197,12 @@ void Desktop::BringToFront(const std::string& title) const {
 void Desktop::MoveActiveWindow(int x, int y) const {
   RunToEnd({"xdotool", "getactivewindow", "windowmove", std::to_string(x), std::to_string(y)},
            scratch_ / "xdotool.txt");
+}
+
+void Desktop::ResizeActiveWindow(int width, int height) const {
+  RunToEnd(
+      {"xdotool", "getactivewindow", "windowsize", std::to_string(width), std::to_string(height)},
+      scratch_ / "xdotool.txt");
 }
 
 std::string Desktop::PixelsOf(const Widget& widget) const {

@@ -15,6 +15,13 @@
 
 namespace end_to_end {
 
+// Where a list is found.
+struct ListPlace {
+  std::string_view label;       // in front of it
+  std::string_view group = {};  // the caption of the frame around it; anywhere when empty
+  int number = 1;               // among those with the same label there
+};
+
 class Desktop {
  public:
   // What its programs write lies in the directory `scratch`. Throws std::runtime_error when one of
@@ -29,6 +36,7 @@ class Desktop {
   std::optional<Widget> Find(std::string_view role, std::string_view name) const;
   // The same for a field without a name of its own, by the label in front of it.
   std::optional<Widget> FindDescribed(std::string_view role, std::string_view label) const;
+  std::optional<Widget> FindList(const ListPlace& place) const;
 
   // The mouse, at the middle of the widget.
   void Click(const Widget& widget) const;
@@ -48,6 +56,8 @@ class Desktop {
   void BringToFront(const std::string& title) const;
   // What dragging the title does to the window in front: its corner goes to that place.
   void MoveActiveWindow(int x, int y) const;
+  // The same with the corner of its frame: its content gets that size.
+  void ResizeActiveWindow(int width, int height) const;
 
   // The pixels of a widget as they are now.
   std::string PixelsOf(const Widget& widget) const;

@@ -5,11 +5,11 @@
 #include <filesystem>
 #include <fstream>
 #include <ostream>
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include "end_to_end/deadline.h"
+#include "end_to_end/image_lines.h"
 #include "end_to_end/stage.h"
 
 namespace end_to_end {
@@ -61,19 +61,6 @@ const std::vector<FileCase> fileCases = {
 
 std::string TitleOf(const fs::path& file) {
   return programName + "  -  " + file.string();
-}
-
-std::vector<std::string> LinesOf(const std::string& content) {
-  std::vector<std::string> lines;
-  std::istringstream stream(content);
-  for (std::string line; std::getline(stream, line);) lines.push_back(line + "\n");
-  return lines;
-}
-
-std::string Text(const std::vector<std::string>& lines) {
-  std::string text;
-  for (const std::string& line : lines) text += line;
-  return text;
 }
 
 void Write(const fs::path& file, const std::string& content) {

@@ -19,7 +19,9 @@ const QString rootPath = QStringLiteral("/org/a11y/atspi/accessible/root");
 constexpr int callLimit = 5000;  // ms; a tool that spins does not answer
 
 // Places in the state set of the accessibility protocol.
+constexpr unsigned checkedState = 4;
 constexpr unsigned enabledState = 8;
+constexpr unsigned focusedState = 12;
 constexpr unsigned showingState = 25;
 
 struct Place {
@@ -76,7 +78,9 @@ class Questions {
                   .y = area.y(),
                   .width = area.width(),
                   .height = area.height(),
-                  .enabled = Holds(states.first(), enabledState)};
+                  .enabled = Holds(states.first(), enabledState),
+                  .focused = Holds(states.first(), focusedState),
+                  .checked = Holds(states.first(), checkedState)};
   }
 
   std::vector<Place> Children() {
@@ -126,18 +130,30 @@ std::string ContentOf(const QDBusConnection& bus, const Place& field) {
   return Answer(call).toString().toStdString();
 }
 
-std::vector<Questions> AskAll(const QDBusConnection& bus, const std::vector<Place>& places) {
+// A place and the caption of what is around it.
+struct Node {
+  Place place;
+  std::string group;
+};
+
+std::vector<Questions> AskAll(const QDBusConnection& bus, const std::vector<Node>& nodes) {
   std::vector<Questions> questions;
-  for (const Place& place : places) questions.emplace_back(bus, place);
+  for (const Node& node : nodes) questions.emplace_back(bus, node.place);
   return questions;
 }
 
-std::vector<Place> ChildrenOf(std::vector<Questions> parents) {
-  std::vector<Place> children;
-  for (Questions& parent : parents) {
-    for (const Place& child : parent.Children()) children.push_back(child);
-  }
+void AddChildren(Questions& parent, const std::string& group, std::vector<Node>& children) {
+  for (const Place& child : parent.Children()) children.push_back({child, group});
+}
+
+std::vector<Node> ChildrenOf(std::vector<Questions> parents) {
+  std::vector<Node> children;
+  for (Questions& parent : parents) AddChildren(parent, "", children);
   return children;
+}
+
+bool IsGroup(const Widget& widget) {
+  return !widget.name.empty() && (widget.role == "frame" || widget.role == "panel");
 }
 
 // The address of the bus on which programs answer screen readers, once there is one.
@@ -174,20 +190,22 @@ ScreenReader::~ScreenReader() {
 std::vector<Widget> ScreenReader::Widgets() const {
   std::vector<Widget> widgets;
   const Place registry{QStringLiteral("org.a11y.atspi.Registry"), rootPath};
-  const std::vector<Place> programs = ChildrenOf(AskAll(bus_, {registry}));
-  std::vector<Place> level = ChildrenOf(AskAll(bus_, programs));
+  const std::vector<Node> programs = ChildrenOf(AskAll(bus_, {{registry, ""}}));
+  std::vector<Node> level = ChildrenOf(AskAll(bus_, programs));
   while (!level.empty()) {
-    std::vector<Questions> shown;
+    std::vector<Node> next;
     std::vector<Questions> asked = AskAll(bus_, level);
     for (std::size_t i = 0; i < level.size(); ++i) {
       std::optional<Widget> widget = asked[i].Answers();
       if (!widget) continue;
-      if (widget->role == "text") widget->content = ContentOf(bus_, level[i]);
+      if (widget->role == "text") widget->content = ContentOf(bus_, level[i].place);
+      widget->group = level[i].group;
       widgets.push_back(*widget);
       // Items of a closed list are widgets too, and many.
-      if (widget->role != "combo box") shown.push_back(asked[i]);
+      if (widget->role == "combo box") continue;
+      AddChildren(asked[i], IsGroup(*widget) ? widget->name : widget->group, next);
     }
-    level = ChildrenOf(shown);
+    level = std::move(next);
   }
   return widgets;
 }

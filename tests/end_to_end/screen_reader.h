@@ -14,11 +14,14 @@ struct Widget {
   std::string name;         // what is read out; of a combo box the item that it shows
   std::string description;  // of a combo box the label in front of it
   std::string content;      // of a text field what stands in it
+  std::string group;        // the caption of the frame around it; without one, the window's title
   int x = 0;                // on the display
   int y = 0;
   int width = 0;
   int height = 0;
   bool enabled = false;
+  bool focused = false;
+  bool checked = false;
 };
 
 class ScreenReader {

@@ -6,11 +6,32 @@
 #include <stdexcept>
 
 #include "end_to_end/deadline.h"
+#include "end_to_end/grid.h"
+#include "end_to_end/image_lines.h"
 
 namespace end_to_end {
 namespace {
 
 namespace fs = std::filesystem;
+
+// The widget with the keyboard, in words; different ones have different words.
+std::string FocusOf(const std::vector<Widget>& widgets) {
+  std::string focus;
+  for (const Widget& each : widgets) {
+    if (!each.focused) continue;
+    focus += each.role + " \"" + each.name + "\" \"" + each.description + "\" at " +
+             std::to_string(each.x) + "," + std::to_string(each.y) + "; ";
+  }
+  return focus;
+}
+
+// What a list shows. Without an item it has the label's name, and a text that is none stands behind
+// the label.
+std::string TextOf(const Widget& list, std::string_view label) {
+  if (list.name != label) return list.name;
+  const std::string behind = list.description.substr(label.size());
+  return behind.empty() ? behind : behind.substr(1);
+}
 
 fs::path MakeScratch() {
   std::string name = (fs::temp_directory_path() / "bkconf-XXXXXX").string();
@@ -169,15 +190,15 @@ void Stage::LeaveScreen(std::string_view title) {
   EXPECT_TRUE(left) << "the screen \"" << title << "\" stays";
 }
 
-void Stage::PickInList(std::string_view label, const std::vector<std::string>& keys,
+void Stage::PickInList(const ListPlace& place, const std::vector<std::string>& keys,
                        std::string_view item) {
   const auto shown = [&] {
-    const auto list = desktop().FindDescribed("combo box", label);
+    const auto list = desktop().FindList(place);
     return list && list->name == item;
   };
   // Keys that come before the list is open are lost.
   const bool taken = WaitFor([&] {
-    const auto list = desktop().FindDescribed("combo box", label);
+    const auto list = desktop().FindList(place);
     if (!list || !list->enabled) return false;
     desktop().Click(*list);
     desktop().Press(keys);
@@ -185,7 +206,61 @@ void Stage::PickInList(std::string_view label, const std::vector<std::string>& k
     desktop().Press({"Escape"});
     return false;
   });
-  EXPECT_TRUE(taken) << "the list \"" << label << "\" does not take " << item;
+  EXPECT_TRUE(taken) << "the list \"" << place.label << "\" does not take " << item;
+}
+
+void Stage::PickItem(const ListPlace& place, int index, std::string_view item) {
+  std::vector<std::string> keys = {"Home"};
+  keys.insert(keys.end(), static_cast<std::size_t>(index), "Down");
+  keys.emplace_back("Return");
+  PickInList(place, keys, item);
+}
+
+void Stage::AwaitListText(const ListPlace& place, std::string_view text) {
+  std::string shown = "nothing: there is none";
+  EXPECT_TRUE(WaitFor([&] {
+    const auto list = desktop().FindList(place);
+    if (list) shown = TextOf(*list, place.label);
+    return list && shown == text;
+  })) << "the list \""
+      << place.label << "\" shows \"" << shown << "\" in place of \"" << text << "\"";
+}
+
+Widget Stage::AwaitCell(std::string_view row, std::string_view column, std::string_view text) {
+  std::optional<Widget> cell;
+  const bool stands = WaitFor([&] {
+    const std::optional<Widget> before = cell;
+    cell = GridOf(desktop().Widgets()).Find(row, column);
+    return before && cell && cell->x == before->x && cell->y == before->y && cell->name == text;
+  });
+  const std::string place = std::string(row) + ", " + std::string(column);
+  if (!cell) throw std::runtime_error("there is no cell " + place);
+  EXPECT_TRUE(stands) << "the cell " << place << " shows \"" << cell->name << "\" in place of \""
+                      << text << "\"";
+  return *cell;
+}
+
+void Stage::AwaitRows(const std::vector<std::string>& rows) {
+  std::vector<std::string> shown;
+  WaitFor([&] {
+    shown = GridOf(desktop().Widgets()).Texts();
+    if (shown.size() > rows.size()) shown.resize(rows.size());
+    return shown == rows;
+  });
+  EXPECT_EQ(shown, rows);
+}
+
+void Stage::TabTo(const std::function<bool(const Widget&)>& isWidget) {
+  const auto isThere = [&](const Widget& each) { return each.focused && isWidget(each); };
+  constexpr int mostSteps = 60;
+  for (int step = 0; step < mostSteps; ++step) {
+    const std::vector<Widget> widgets = desktop().Widgets();
+    if (std::any_of(widgets.begin(), widgets.end(), isThere)) return;
+    const std::string before = FocusOf(widgets);
+    desktop().Press({"Tab"});
+    WaitFor([&] { return FocusOf(desktop().Widgets()) != before; }, std::chrono::seconds(3));
+  }
+  ADD_FAILURE() << "the keyboard does not get there; it is in " << FocusOf(desktop().Widgets());
 }
 
 bool Stage::IsEnabled(std::string_view role, std::string_view name) {
@@ -211,9 +286,30 @@ void Stage::AwaitShown(const std::vector<std::string>& widgets) {
 
 void Stage::ConnectAndRead() {
   ClickOn("push button", captions().connect);
+  AwaitRead();
+}
+
+void Stage::AwaitRead() {
   AwaitText("Edit mode");
   AwaitOnLine(false, "STOP\\r");
   Await("push button", captions().send);
+}
+
+void Stage::ExpectSent(const std::string& demoFile, const std::map<int, int>& cells) {
+  const std::vector<std::string> wanted = WithCells(LinesOf(ContentOf(DemoFile(demoFile))), cells);
+  std::vector<std::string> saved;
+  WaitFor([&] {
+    saved = LinesOf(ContentOf(savedImage()));
+    return saved == wanted;
+  });
+  EXPECT_EQ(saved, wanted);
+  AwaitText("Ready");
+  Await("push button", captions().send);
+}
+
+void Stage::SendAndExpect(const std::string& demoFile, const std::map<int, int>& cells) {
+  ClickOn("push button", captions().send);
+  ExpectSent(demoFile, cells);
 }
 
 fs::path Stage::DemoFile(const std::string& name) {

@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -70,8 +72,29 @@ class Stage : public ::testing::Test {
   // Closes an opened screen by Escape, which is lost while the window manager moves the focus.
   void LeaveScreen(std::string_view title);
   // Opens the list behind that label and presses keys in it until it shows `item`.
-  void PickInList(std::string_view label, const std::vector<std::string>& keys,
+  void PickInList(const ListPlace& place, const std::vector<std::string>& keys,
                   std::string_view item);
+  void PickInList(std::string_view label, const std::vector<std::string>& keys,
+                  std::string_view item) {
+    PickInList(ListPlace{label}, keys, item);
+  }
+  // Picks the item at that place, counted from 0, and expects that it is `item`.
+  void PickItem(const ListPlace& place, int index, std::string_view item);
+  // Waits until the list shows that text, an item or not.
+  void AwaitListText(const ListPlace& place, std::string_view text);
+
+  // The cell of the table in the row that begins with `row`, below the caption `column`, once it
+  // stands still with that text.
+  Widget AwaitCell(std::string_view row, std::string_view column, std::string_view text);
+  // Waits until the rows of the table that are in sight begin with these, the texts of a row behind
+  // each other with bars between them.
+  void AwaitRows(const std::vector<std::string>& rows);
+
+  // Presses Tab until the keyboard is in the widget.
+  void TabTo(const std::function<bool(const Widget&)>& isWidget);
+  void TabTo(std::string_view role, std::string_view name) {
+    TabTo([=](const Widget& each) { return each.role == role && each.name == name; });
+  }
   // Waits for a text in a label of a window.
   void AwaitText(std::string_view text) { Await("label", text); }
   bool IsEnabled(std::string_view role, std::string_view name);
@@ -81,6 +104,13 @@ class Stage : public ::testing::Test {
   void AwaitShown(const std::vector<std::string>& widgets);
   // Presses Connect and waits until the module is read.
   void ConnectAndRead();
+  // The same when Connect is pressed already.
+  void AwaitRead();
+  // Presses Send, waits until the module has stored the file of the demo house with nothing but
+  // these cells changed, and then until the tool is ready for more.
+  void SendAndExpect(const std::string& demoFile, const std::map<int, int>& cells);
+  // The same when Send is pressed already.
+  void ExpectSent(const std::string& demoFile, const std::map<int, int>& cells);
 
   // A configuration file of the house that comes with the tool.
   static std::filesystem::path DemoFile(const std::string& name);
