@@ -33,6 +33,23 @@ struct Captions {
   const char* saveButton;
   const char* fileName;
 
+  // Screens of the editors
+  const char* confirm;
+  const char* leave;
+  const char* yes;
+
+  // The push-buttons
+  const char* buttons;
+  const char* buttonChooser;
+  const char* buttonRow;  // in front of its number
+  const char* firstColumn;
+  const char* secondColumn;
+  const char* firstFunction;
+  const char* store;
+  const char* clearSecond;
+  const char* baseFunctions;
+  const char* baseQuestion;
+
   // Errors
   const char* fileTooShort;
   const char* place;
@@ -60,6 +77,19 @@ inline constexpr Captions dutch = {.language = 1,
                                    .saveTitle = "Opslaan",
                                    .saveButton = "Bewaren",
                                    .fileName = "Bestandsnaam",
+                                   .confirm = "Bevestigen",
+                                   .leave = "Verlaten",
+                                   .yes = "Ja",
+                                   .buttons = "Drukknoppen",
+                                   .buttonChooser = "Drukknop Nr:",
+                                   .buttonRow = "Nummer: ",
+                                   .firstColumn = "1ste functie",
+                                   .secondColumn = "2de functie",
+                                   .firstFunction = "1ste functie:",
+                                   .store = "<--Invoegen",
+                                   .clearSecond = "Wissen van alle 2de functies!",
+                                   .baseFunctions = "Basisfuncties",
+                                   .baseQuestion = "Basisfuncties aan drukknoppen toekennen?",
                                    .fileTooShort = "Het bestand is te kort voor deze module.",
                                    .place = "Plaats: ",
                                    .line = "regel "};
@@ -85,6 +115,19 @@ inline constexpr Captions french = {.language = 2,
                                     .saveTitle = "Sauver",
                                     .saveButton = "Sauver",
                                     .fileName = "Nom fichier",
+                                    .confirm = "Confirmer",
+                                    .leave = "Quitter",
+                                    .yes = "Oui",
+                                    .buttons = "Boutons poussoirs",
+                                    .buttonChooser = "Nr. bouton:",
+                                    .buttonRow = "Numéro: ",
+                                    .firstColumn = "1° fonction",
+                                    .secondColumn = "2° fonction",
+                                    .firstFunction = "1ère fonction:",
+                                    .store = "<--Insérer",
+                                    .clearSecond = "Effacer tous les 2ème fonctions!",
+                                    .baseFunctions = "Fonctions de base",
+                                    .baseQuestion = "Fonctions de base aux boutons poussoirs?",
                                     .fileTooShort = "Le fichier est trop court pour ce module.",
                                     .place = "Endroit : ",
                                     .line = "ligne "};

@@ -1,0 +1,135 @@
+// The configuration page of a master: its list of modules, read from the line and changed by hand.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "end_to_end/deadline.h"
+#include "end_to_end/stage.h"
+
+namespace end_to_end {
+namespace {
+
+struct Listed {
+  char letter;
+  int code;
+  const char* type;
+};
+
+const std::vector<Listed> house = {
+    {'A', 0, "Module relais"},   {'B', 4, "Module relais DC"},   {'C', 1, "Module dim"},
+    {'D', 11, "Module Lumenza"}, {'E', 2, "Module température"}, {'F', 3, "LCD-TOUCH"},
+    {'G', 5, "Module alarme"},   {'H', 6, "Interface audio"},    {'I', 7, "Module simulation"},
+    {'J', 8, "Module I.R."},
+};
+
+constexpr int places = 18;
+constexpr int firstLetter = 123;  // cells
+constexpr int firstType = 141;
+constexpr int empty = 42;
+
+std::vector<Listed> Without(std::vector<Listed> modules, char letter) {
+  std::erase_if(modules, [letter](const Listed& each) { return each.letter == letter; });
+  return modules;
+}
+
+// Behind the last module there is an empty row.
+std::vector<std::string> RowsOf(const std::vector<Listed>& modules) {
+  std::vector<std::string> rows;
+  for (const Listed& each : modules) {
+    rows.push_back(std::to_string(rows.size() + 1) + "|" + each.letter + "|" + each.type);
+  }
+  rows.emplace_back("||");
+  return rows;
+}
+
+std::map<int, int> CellsOf(const std::vector<Listed>& modules) {
+  std::map<int, int> cells;
+  for (int place = 0; place < places; ++place) {
+    const auto index = static_cast<std::size_t>(place);
+    const bool free = index >= modules.size();
+    cells[firstLetter + place] = free ? empty : modules[index].letter;
+    cells[firstType + place] = free ? empty : modules[index].code;
+  }
+  return cells;
+}
+
+class ModuleList : public Stage {
+ protected:
+  void SetUp() override {
+    LayOutDirectory(french);
+    StartModule(9, {"--image", DemoFile("Master.BK1").string(), "--save", savedImage().string()});
+    StartTool();
+    ConnectAndRead();
+  }
+
+  // In a window that is so high that the whole list is in sight.
+  void OpenPage() {
+    ClickOn("push button", "Configuration");
+    Await("panel", "Configuration:");
+    desktop().MoveActiveWindow(100, 30);
+    desktop().ResizeActiveWindow(1000, 950);
+    AwaitWindow("TREVAN BK-CONF");
+  }
+  void Delete(const std::string& number, const std::string& letter) {
+    const std::string question = "Effacer le module?";
+    desktop().DoubleClick(AwaitCell(number, "Adresse", letter));
+    AwaitText(question);
+    ClickOn("push button", captions().yes);
+    AwaitGone("label", question);
+  }
+  // The letters that no module has are offered, the first of them first.
+  void Add(const Listed& module, int typeIndex) {
+    const std::string panel = "Ajouter:";
+    desktop().DoubleClick(AwaitCell("", "Adresse", ""));
+    Await("panel", panel);
+    PickItem({"Module:", panel}, 0, std::string(1, module.letter));
+    PickItem({"Type:", panel}, typeIndex, module.type);
+    ClickOn("push button", captions().confirm);
+    AwaitGone("panel", panel);
+  }
+  void Scan() {
+    const std::size_t before = Stops();
+    ClickOn("push button", scanButton);
+    AwaitOnLine(true, "T80400\\r");
+    EXPECT_TRUE(WaitFor([&] { return Stops() > before; })) << "the master tells no list";
+    Await("push button", scanButton);
+  }
+
+  const std::string scanButton = "Scanning automatique";
+
+ private:
+  std::size_t Stops() const {
+    const std::vector<LogUnit> units = Log();
+    return static_cast<std::size_t>(std::count_if(
+        units.begin(), units.end(), [](const LogUnit& unit) { return unit.text == "STOP\\r"; }));
+  }
+};
+
+TEST_F(ModuleList, IsReadFromTheLineChangedAndSent) {
+  OpenPage();
+  AwaitRows(RowsOf(house));
+
+  Delete("3", "C");
+  AwaitRows(RowsOf(Without(house, 'C')));
+  Scan();
+  AwaitRows(RowsOf(house));
+
+  const Listed added = {'K', 11, "Module Lumenza"};
+  Add(added, 9);
+  std::vector<Listed> modules = house;
+  modules.push_back(added);
+  AwaitRows(RowsOf(modules));
+  Delete("2", "B");
+  modules = Without(modules, 'B');
+  AwaitRows(RowsOf(modules));
+
+  SendAndExpect("Master.BK1", CellsOf(modules));
+  EXPECT_FALSE(desktop().Find("panel", "Configuration:")) << "it goes with the send";
+  CloseTool();
+}
+
+}  // namespace
+}  // namespace end_to_end
