@@ -126,10 +126,17 @@ void Scan() {
 
 // --- Add and delete -----------------------------------------------------------------------------
 
+/// Whatever stands beside it: a letter cannot stand in the list twice.
+bool IsListed(char letter) {
+  int row = 0;
+  while (row < DirectoryRows && DirectoryLetter(row).Number() != letter) ++row;
+  return row < DirectoryRows;
+}
+
 void OpenAdd() {
   fields->addLetter.items.clear();
   for (char letter = 'A'; letter <= 'R'; ++letter) {
-    if (!DirectoryTypeOf(letter)) fields->addLetter.items.emplace_back(1, letter);
+    if (!IsListed(letter)) fields->addLetter.items.emplace_back(1, letter);
   }
   fields->addType.items.clear();
   for (const ListedType& row : ListedTypes) {
