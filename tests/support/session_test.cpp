@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 #include <memory>
+#include <stdexcept>
 
 #include "image/tables.h"
 #include "link/link_ticks.h"
@@ -157,6 +158,15 @@ void SessionTest::Start(int language) {
   StartSession(LoadMainWindow, [](const std::string&) {});
 }
 
+void SessionTest::StartWithImage(int kind, int language, char letter) {
+  Start(language);
+  ActiveModuleType = kind;
+  const ModuleKind& row = *FindKind(kind);
+  for (int cell = 0; cell < row.version.table->Size(); ++cell) (*row.version.table)[cell] = 42;
+  if (row.address.table != nullptr) (*row.address.table)[row.address.index] = int{letter};
+  ShowImage(Origin::File);
+}
+
 virtual_module::Module& SessionTest::Plug(int kind, std::optional<virtual_module::Fault> fault,
                                           std::uint32_t seed) {
   return Plug({kind, virtual_module::DefaultMemory(kind, seed), fault, seed});
@@ -186,6 +196,14 @@ void SessionTest::SendToModule() {
 void SessionTest::FinishTransfer(std::int64_t limitMs) {
   ASSERT_TRUE(clock.RunUntil([] { return !TransferUnderWay; }, limitMs))
       << "status: " << MainWindow.status.caption;
+}
+
+const ButtonField& ShownAction(Action action) {
+  for (std::size_t i = 0; i < ActionButtons.size(); ++i) {
+    const ButtonField& button = *MainWindow.actionButtons[i];
+    if (ActionButtons[i].action == action && button.visible) return button;
+  }
+  throw std::runtime_error("no such action is shown");
 }
 
 std::vector<std::string> VisibleActions() {

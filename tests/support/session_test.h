@@ -13,6 +13,7 @@
 
 #include "platform/machine.h"
 #include "platform/runtime_error.h"
+#include "shell/action_buttons.h"
 #include "shell/main_window.h"
 #include "support/fake_line.h"
 #include "support/snapshot.h"
@@ -90,6 +91,10 @@ class SessionTest : public testing::Test {
                                std::uint32_t seed = 1);
   virtual_module::Module& Plug(virtual_module::Options options);
 
+  /// Starts the session and puts an image of that kind into memory, as a file does: every cell of
+  /// its table 42, and the letter in its address cell.
+  void StartWithImage(int kind, int language = 1, char letter = 'C');
+
   /// Presses Connect and runs until the menus are back.
   void ReadModule();
   /// Presses Send and runs until the menus are back.
@@ -103,6 +108,10 @@ class SessionTest : public testing::Test {
 
 /// The codes of all module kinds.
 inline constexpr int AllKinds[] = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 11};
+
+/// The action button with that meaning that the kind in memory shows; throws std::runtime_error
+/// when there is none.
+const ButtonField& ShownAction(Action action);
 
 /// What the action buttons of the kind in memory are: all visible ones enabled, none, or a mix.
 std::vector<std::string> VisibleActions();
