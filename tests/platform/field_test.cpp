@@ -334,6 +334,9 @@ TEST(ScreenTest, EachFieldKnowsItsKindForTheView) {
   EXPECT_EQ(ProgressField(screen, "5").kind, FieldKind::Progress);
   EXPECT_EQ(PictureField(screen, "6").kind, FieldKind::Picture);
   EXPECT_EQ(MenuField(screen, nullptr, "7").kind, FieldKind::Menu);
+  EXPECT_EQ(CheckField(screen, "8").kind, FieldKind::Check);
+  EXPECT_EQ(OptionField(screen, "9", nullptr).kind, FieldKind::Option);
+  EXPECT_EQ(GridField(screen, "10").kind, FieldKind::Grid);
 }
 
 TEST(ScreenTest, TheFieldsOfTheMainWindowHaveNamesOfTheirOwn) {
