@@ -175,18 +175,44 @@ TEST(TextTest, TheLanguagesDifferUnlessTheyAreTheSameOnPurpose) {
   }
 }
 
-TEST(TextTest, OnlyTextsThatSomethingFollowsEndInABlank) {
-  const std::set<TextId> followed = {
-      TextId::Version,       TextId::ErrorPlace,    TextId::FileLine,
-      TextId::RelayFileName, TextId::DimFileName,   TextId::RelayDcFileName,
-      TextId::LcdFileName,   TextId::IrFileName,    TextId::TemperatureFileName,
-      TextId::AlarmFileName, TextId::AudioFileName, TextId::SimulationFileName,
-  };
+/// Texts that stand behind another one, or leave room for a field in front of them.
+const std::set<TextId> BeginWithABlank = {
+    TextId::WordOff,        TextId::WordOn,
+    TextId::WordToggle,     TextId::WordToPercent,
+    TextId::WordVolumeUp,   TextId::WordVolumeDown,
+    TextId::WordSourceUp,   TextId::WordTrebleUp,
+    TextId::WordTrebleDown, TextId::WordBassUp,
+    TextId::WordBassDown,   TextId::WordToSource,
+    TextId::WordToVolume,   TextId::WordToTreble,
+    TextId::WordToBass,     TextId::WordToBalance,
+    TextId::InAllRooms,     TextId::InRoom,
+    TextId::DegreesInRoom,  TextId::DegreesInAllRooms,
+    TextId::LinkedFor,
+};
+
+/// Texts that something follows.
+const std::set<TextId> EndInABlank = {
+    TextId::Version,          TextId::ErrorPlace,       TextId::FileLine,
+    TextId::RelayFileName,    TextId::DimFileName,      TextId::RelayDcFileName,
+    TextId::LcdFileName,      TextId::IrFileName,       TextId::TemperatureFileName,
+    TextId::AlarmFileName,    TextId::AudioFileName,    TextId::SimulationFileName,
+    TextId::OutputSentence,   TextId::DetectorSentence, TextId::WordToPercent,
+    TextId::InRoom,           TextId::MainZoneSentence, TextId::SecondaryZoneSentence,
+    TextId::WordToSource,     TextId::WordToVolume,     TextId::WordToTreble,
+    TextId::WordToBass,       TextId::WordToBalance,    TextId::ContextSentence,
+    TextId::RelayTitle,       TextId::RelayDcTitle,     TextId::DimTitle,
+    TextId::LumenzaTitle,     TextId::TemperatureTitle, TextId::LcdTitle,
+    TextId::AlarmTitle,       TextId::AudioTitle,       TextId::SimulationTitle,
+    TextId::IrTitle,          TextId::ButtonNumber,     TextId::ActiveAfterOutput,
+    TextId::LockedWithOutput, TextId::LinkedFor,
+};
+
+TEST(TextTest, OnlyTextsThatAreMeantToBeginOrEndInABlank) {
   for (std::size_t i = 0; i < TextCount(); ++i) {
     const auto id = static_cast<TextId>(i);
     for (const std::string_view text : {TextOf(id).dutch, TextOf(id).french}) {
-      EXPECT_NE(text.front(), ' ') << text;
-      EXPECT_EQ(text.back() == ' ', followed.contains(id)) << text;
+      EXPECT_EQ(text.front() == ' ', BeginWithABlank.contains(id)) << text;
+      EXPECT_EQ(text.back() == ' ', EndInABlank.contains(id)) << text;
     }
   }
 }
