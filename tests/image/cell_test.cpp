@@ -185,6 +185,18 @@ TEST(ReadsAsNumberTest, ReadsBackWhatPrintFormPrints) {
   }
 }
 
+TEST(CellTest, AWholeNumberIsReadFromNumbersAndDigitsOnly) {
+  for (const Cell& cell : {Cell(5), Cell(5.0), Cell("5"), Cell(" 5 "), Cell("+5"), Cell("5.0")}) {
+    EXPECT_EQ(cell.WholeNumber(), 5) << cell.Text();
+  }
+  EXPECT_EQ(Cell(0).WholeNumber(), 0);
+  EXPECT_EQ(Cell(-3).WholeNumber(), -3);
+  for (const Cell& cell : {Cell(), Cell(""), Cell("*"), Cell("word"), Cell(0.5), Cell("0.5"),
+                           Cell("5x"), Cell(1e300), Cell(-1e300)}) {
+    EXPECT_EQ(cell.WholeNumber(), std::nullopt) << cell.Text();
+  }
+}
+
 struct LenientRow {
   const char* text;
   int number;
