@@ -1,11 +1,14 @@
 #include "shell/qt/field_view.h"
 
 #include "shell/qt/button_view.h"
+#include "shell/qt/check_view.h"
+#include "shell/qt/grid_view.h"
 #include "shell/qt/group_view.h"
 #include "shell/qt/label_view.h"
 #include "shell/qt/list_box_view.h"
 #include "shell/qt/list_view.h"
 #include "shell/qt/manual_view.h"
+#include "shell/qt/option_view.h"
 #include "shell/qt/picture_view.h"
 #include "shell/qt/progress_view.h"
 #include "shell/qt/text_view.h"
@@ -32,8 +35,8 @@ void WidgetView::Refresh() {
 }
 
 QString WidgetView::SpokenName() const {
-  if (!field_.caption.empty()) return ToQt(field_.caption);
-  return label_ == nullptr ? QString() : ToQt(label_->caption);
+  if (!field_.caption.empty()) return ToQt(field_.caption).trimmed();
+  return label_ == nullptr ? QString() : ToQt(label_->caption).trimmed();
 }
 
 std::unique_ptr<WidgetView> MakeView(Field& field, QWidget* parent) {
@@ -48,6 +51,12 @@ std::unique_ptr<WidgetView> MakeView(Field& field, QWidget* parent) {
       return std::make_unique<ListView>(static_cast<ListField&>(field), parent);
     case FieldKind::ListBox:
       return std::make_unique<ListBoxView>(static_cast<ListBoxField&>(field), parent);
+    case FieldKind::Check:
+      return std::make_unique<CheckView>(static_cast<CheckField&>(field), parent);
+    case FieldKind::Option:
+      return std::make_unique<OptionView>(static_cast<OptionField&>(field), parent);
+    case FieldKind::Grid:
+      return std::make_unique<GridView>(static_cast<GridField&>(field), parent);
     case FieldKind::Button:
       return std::make_unique<ButtonView>(static_cast<ButtonField&>(field), parent);
     case FieldKind::Progress:

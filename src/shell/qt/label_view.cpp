@@ -12,9 +12,9 @@
 namespace bkconf {
 namespace {
 
-class CaptionLabel : public ShortenedLabel {
+class CaptionLabel : public FittingLabel {
  public:
-  CaptionLabel(const LabelField& field, QWidget* parent) : ShortenedLabel(parent), field_(field) {}
+  CaptionLabel(const LabelField& field, QWidget* parent) : FittingLabel(parent), field_(field) {}
 
  protected:
   void mouseDoubleClickEvent(QMouseEvent* event) override {
@@ -29,12 +29,12 @@ class CaptionLabel : public ShortenedLabel {
         DoubleClick();
         return;
       default:
-        ShortenedLabel::keyPressEvent(event);
+        FittingLabel::keyPressEvent(event);
     }
   }
 
   void paintEvent(QPaintEvent* event) override {
-    ShortenedLabel::paintEvent(event);
+    FittingLabel::paintEvent(event);
     if (!hasFocus()) return;
     QPainter painter(this);
     QStyleOptionFocusRect frame;
@@ -52,29 +52,47 @@ class CaptionLabel : public ShortenedLabel {
 
 }  // namespace
 
-void ShortenedLabel::Shorten() {
+void FittingLabel::Shorten() {
   shortened_ = true;
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
 }
 
-QSize ShortenedLabel::sizeHint() const {
+void FittingLabel::Wrap() {
+  wrapped_ = true;
+  setWordWrap(true);
+  setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  // A height that goes with the width would be asked for by layouts, but not by windows.
+  QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Minimum);
+  policy.setHeightForWidth(false);
+  setSizePolicy(policy);
+}
+
+void FittingLabel::KeepLines(int lines) {
+  Wrap();
+  setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  setFixedHeight(lines * fontMetrics().lineSpacing());
+}
+
+QSize FittingLabel::sizeHint() const {
+  if (wrapped_) return minimumSizeHint();
   return shortened_ ? Width(48, QLabel::sizeHint()) : QLabel::sizeHint();
 }
 
-QSize ShortenedLabel::minimumSizeHint() const {
+QSize FittingLabel::minimumSizeHint() const {
+  if (wrapped_) return {minimumWidth(), heightForWidth(minimumWidth())};
   return shortened_ ? Width(12, QLabel::minimumSizeHint()) : QLabel::minimumSizeHint();
 }
 
 /// The width is that of so many characters, whatever the text: it changes with every directory.
-QSize ShortenedLabel::Width(int characters, QSize whole) const {
+QSize FittingLabel::Width(int characters, QSize whole) const {
   return {characters * fontMetrics().averageCharWidth(), whole.height()};
 }
 
-QString ShortenedLabel::Fitting() const {
+QString FittingLabel::Fitting() const {
   return fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width());
 }
 
-bool ShortenedLabel::event(QEvent* event) {
+bool FittingLabel::event(QEvent* event) {
   const bool tells = shortened_ && toolTip().isEmpty() && Fitting() != text();
   if (event->type() != QEvent::ToolTip || !tells) return QLabel::event(event);
   // A path is never markup.
@@ -83,7 +101,7 @@ bool ShortenedLabel::event(QEvent* event) {
   return true;
 }
 
-void ShortenedLabel::paintEvent(QPaintEvent* event) {
+void FittingLabel::paintEvent(QPaintEvent* event) {
   if (!shortened_) {
     QLabel::paintEvent(event);
     return;

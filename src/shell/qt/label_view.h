@@ -1,4 +1,4 @@
-// The view of a label: a line of plain text. One that a double click does something with can also
+// The view of a label: plain text. One that a double click does something with can also
 // be reached by keyboard. Made by MakeView.
 #pragma once
 
@@ -23,14 +23,18 @@ class LabelView : public WidgetView {
   std::string caption_;
 };
 
-/// A label can be told to take no more width than there is: what does not fit is left out in the
-/// middle, and the tool tip tells all of it. Of a path, that leaves the drive and the file in
-/// sight.
-class ShortenedLabel : public QLabel {
+/// A label that can be told to fit into the width that there is.
+class FittingLabel : public QLabel {
  public:
   using QLabel::QLabel;
 
+  /// What does not fit is left out in the middle, and the tool tip tells all of it. Of a path, that
+  /// leaves the drive and the file in sight.
   void Shorten();
+  /// Takes as many lines as it needs at its minimum width.
+  void Wrap();
+  /// Wraps, and keeps the height of so many lines whatever its text is.
+  void KeepLines(int lines);
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
@@ -44,6 +48,7 @@ class ShortenedLabel : public QLabel {
   QSize Width(int characters, QSize whole) const;
 
   bool shortened_ = false;
+  bool wrapped_ = false;
 };
 
 }  // namespace bkconf

@@ -12,9 +12,11 @@ namespace bkconf {
 /// How much a part catches the eye.
 enum class Look {
   Plain,
-  Primary,  ///< a button: what the screen is there for
-  Heading,  ///< a label: stands out from the text around it
-  Path,     ///< a label: takes no more width than there is, and leaves out its middle
+  Primary,   ///< a button: what the screen is there for
+  Heading,   ///< a label: stands out from the text around it
+  Path,      ///< a label: takes no more width than there is, and leaves out its middle
+  Wrapped,   ///< a label: takes as many lines as it needs
+  Sentence,  ///< a label: has room for two lines, whatever it says
 };
 
 enum class PartKind {
@@ -26,6 +28,8 @@ enum class PartKind {
   Below,   ///< a field, and close above it the label that names it
   Frame,   ///< a group field around one part
   Tiles,   ///< equal parts in some columns; hidden ones leave no hole
+  Inside,  ///< an option, and a list in place of the blanks that its caption begins with
+  Pile,    ///< parts in the same place, of which one is shown at a time
   Cover,   ///< two parts in the same place: one, and another that lies over it now and then
   Rule,    ///< a thin line across
   Space,   ///< empty room that takes what is left over
@@ -39,8 +43,11 @@ struct Part {
   std::string label;  ///< the field that names this one
   std::vector<Part> parts;
   Look look = Look::Plain;
-  int columns = 0;  ///< of tiles
-  int share = 0;    ///< of the width of its row, in proportion to the others; 0 is as it needs
+  int columns = 0;     ///< of tiles
+  int share = 0;       ///< of the width of its row, in proportion to the others; 0 is as it needs
+  int characters = 0;  ///< of average width, that a field has room for at least
+  bool tight = false;  ///< a column: its parts belong together; a frame: nothing around it
+  bool kept = false;   ///< hidden fields keep their room
 };
 
 inline Part Item(std::string_view field, Look look = Look::Plain) {
@@ -73,8 +80,22 @@ inline Part Frame(std::string_view group, Part content) {
   part.parts.push_back(std::move(content));
   return part;
 }
+/// A group that has no caption: there is nothing to see of it.
+inline Part Hidable(std::string_view group, Part content) {
+  Part part = Frame(group, std::move(content));
+  part.tight = true;
+  return part;
+}
 inline Part Tiles(int columns, std::vector<Part> parts) {
   return {.kind = PartKind::Tiles, .parts = std::move(parts), .columns = columns};
+}
+/// An option, and a list in place of the blanks that its caption begins with.
+inline Part Inside(std::string_view option, std::string_view list) {
+  return {.kind = PartKind::Inside, .field = std::string(list), .label = std::string(option)};
+}
+/// Parts in the same place, from its top on. The logic shows the fields of one of them at a time.
+inline Part Pile(std::vector<Part> parts) {
+  return {.kind = PartKind::Pile, .parts = std::move(parts)};
 }
 /// While the field is visible, `over` takes the place of the whole content. What `over` names first
 /// is the button that closes it: it gets the focus, and Escape presses it.
@@ -87,6 +108,22 @@ inline Part Cover(std::string_view field, Part content, Part over) {
 /// A part of a row, with its share of the width.
 inline Part Share(int share, Part part) {
   part.share = share;
+  return part;
+}
+/// A field that is at least as wide as so many characters.
+inline Part Wide(int characters, Part part) {
+  part.characters = characters;
+  return part;
+}
+/// A column whose parts belong together.
+inline Part Tight(std::vector<Part> parts) {
+  Part part = Column(std::move(parts));
+  part.tight = true;
+  return part;
+}
+/// A part whose fields keep their room while they are hidden, so that nothing around it moves.
+inline Part Kept(Part part) {
+  part.kept = true;
   return part;
 }
 inline Part Rule() {

@@ -1,9 +1,10 @@
 #include "shell/qt/layout_builder.h"
 
-#include <QBoxLayout>
 #include <QGridLayout>
 #include <QLabel>
+#include <QScopedValueRollback>
 
+#include "shell/qt/option_view.h"
 #include "shell/qt/style.h"
 #include "shell/qt/tile_layout.h"
 
@@ -12,6 +13,7 @@ namespace {
 
 constexpr int Spacing = 14;
 constexpr int LineSpacing = 10;
+constexpr int TightSpacing = 6;
 constexpr int LabelSpacing = 4;
 
 QWidget* MakeRule() {
@@ -24,7 +26,14 @@ QWidget* MakeRule() {
 
 /// What a screen reader names by the label beside it.
 bool TakesInput(FieldKind kind) {
-  return kind == FieldKind::Text || kind == FieldKind::List || kind == FieldKind::ListBox;
+  return kind == FieldKind::Text || kind == FieldKind::List || kind == FieldKind::ListBox ||
+         kind == FieldKind::Grid;
+}
+
+void KeepRoom(QWidget& widget) {
+  QSizePolicy policy = widget.sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  widget.setSizePolicy(policy);
 }
 
 }  // namespace
@@ -42,6 +51,10 @@ QLayout* LayoutBuilder::Build(const Part& part) {
       return BuildLine(part);
     case PartKind::Below:
       return BuildBelow(part);
+    case PartKind::Inside:
+      return BuildInside(part);
+    case PartKind::Pile:
+      return BuildPile(part);
     case PartKind::Item:
     case PartKind::Frame:
     case PartKind::Cover:
@@ -55,23 +68,40 @@ QLayout* LayoutBuilder::Build(const Part& part) {
 QLayout* LayoutBuilder::BuildBox(const Part& part) {
   const bool row = part.kind == PartKind::Row;
   auto* box = new QBoxLayout(row ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-  box->setSpacing(Spacing);
-  for (const Part& each : part.parts) {
-    if (each.kind == PartKind::Space) {
-      box->addStretch(1);
-    } else if (each.kind == PartKind::Rule) {
-      box->addWidget(MakeRule());
-    } else if (each.kind == PartKind::Frame) {
-      box->addWidget(BuildFrame(each), each.share);
-    } else if (each.kind == PartKind::Item) {
-      box->addWidget(Place(each), each.share);
-    } else if (each.kind == PartKind::Cover) {
-      box->addLayout(BuildCover(each), each.share);
-    } else {
-      box->addLayout(Build(each), each.share);
-    }
-  }
+  box->setSpacing(part.tight ? TightSpacing : Spacing);
+  for (const Part& each : part.parts) Add(each, *box);
   return box;
+}
+
+void LayoutBuilder::Add(const Part& part, QBoxLayout& box) {
+  const QScopedValueRollback<bool> keeping(keeping_, keeping_ || part.kept);
+  switch (part.kind) {
+    case PartKind::Space:
+      box.addStretch(1);
+      return;
+    case PartKind::Rule:
+      box.addWidget(MakeRule());
+      return;
+    case PartKind::Frame:
+      box.addWidget(BuildFrame(part), part.share);
+      return;
+    case PartKind::Item:
+      box.addWidget(Place(part), part.share);
+      return;
+    case PartKind::Cover:
+      box.addLayout(BuildCover(part), part.share);
+      return;
+    case PartKind::Row:
+    case PartKind::Column:
+    case PartKind::Form:
+    case PartKind::Line:
+    case PartKind::Below:
+    case PartKind::Tiles:
+    case PartKind::Inside:
+    case PartKind::Pile:
+      box.addLayout(Build(part), part.share);
+      return;
+  }
 }
 
 /// A grid and no QFormLayout, which leaves a hole for each hidden line.
@@ -99,8 +129,24 @@ QLayout* LayoutBuilder::BuildBelow(const Part& part) {
   auto* box = new QVBoxLayout;
   box->setSpacing(LabelSpacing);
   box->addWidget(Place(Item(part.label)));
-  box->addWidget(Place(Labelled(part.label, part.field)), 1);
+  box->addWidget(Place(Wide(part.characters, Labelled(part.label, part.field))), 1);
   return box;
+}
+
+QLayout* LayoutBuilder::BuildInside(const Part& part) {
+  QWidget* option = Place(Item(part.label));
+  // A hidden list would leave a hole in the caption.
+  const QScopedValueRollback<bool> keeping(keeping_, false);
+  static_cast<OptionButton*>(option)->Hold(*Place(Labelled(part.label, part.field)));
+  auto* box = new QVBoxLayout;
+  box->addWidget(option);
+  return box;
+}
+
+QLayout* LayoutBuilder::BuildPile(const Part& part) {
+  auto* pile = new QGridLayout;
+  for (const Part& each : part.parts) pile->addLayout(Build(Column({each, Space()})), 0, 0);
+  return pile;
 }
 
 QLayout* LayoutBuilder::BuildTiles(const Part& part) {
@@ -127,8 +173,12 @@ QLayout* LayoutBuilder::BuildCover(const Part& part) {
 
 QWidget* LayoutBuilder::BuildFrame(const Part& part) {
   QWidget* frame = find_(part.field).Widget();
+  if (keeping_) KeepRoom(*frame);
+  // What is in it comes and goes within the room that is kept.
+  const QScopedValueRollback<bool> keeping(keeping_, false);
   QLayout* content = Build(part.parts.front());
-  content->setContentsMargins(FrameMargin, FrameMargin, FrameMargin, FrameMargin);
+  const int margin = part.tight ? 0 : FrameMargin;
+  content->setContentsMargins(margin, margin, margin, margin);
   frame->setLayout(content);
   return frame;
 }
@@ -138,6 +188,10 @@ QWidget* LayoutBuilder::Place(const Part& part) {
   QWidget* widget = view.Widget();
   if (!part.label.empty()) Label(part.label, view);
   ApplyLook(part.look, *widget);
+  if (keeping_) KeepRoom(*widget);
+  if (part.characters > 0) {
+    widget->setMinimumWidth(part.characters * widget->fontMetrics().averageCharWidth());
+  }
   placed_.push_back(widget);
   return widget;
 }

@@ -1,7 +1,7 @@
 // Turns the description of a screen's look into Qt layouts. The window calls it once.
 #pragma once
 
-#include <QLayout>
+#include <QBoxLayout>
 #include <QStackedLayout>
 #include <functional>
 
@@ -37,14 +37,18 @@ class LayoutBuilder {
   QLayout* BuildLine(const Part& line);
   QLayout* BuildBelow(const Part& part);
   QLayout* BuildTiles(const Part& part);
+  QLayout* BuildInside(const Part& part);
+  QLayout* BuildPile(const Part& part);
   QLayout* BuildCover(const Part& part);
   QWidget* BuildFrame(const Part& part);
   QWidget* Place(const Part& part);
+  void Add(const Part& part, QBoxLayout& box);
   void Label(const std::string& label, WidgetView& view);
 
   std::function<WidgetView&(const std::string&)> find_;
   std::vector<QWidget*> placed_;
   std::vector<CoverPages> covers_;
+  bool keeping_ = false;  ///< what is placed keeps its room while it is hidden
 };
 
 }  // namespace bkconf

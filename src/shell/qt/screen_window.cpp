@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <algorithm>
+#include <utility>
 
 #include "shell/qt/event_guard.h"
 #include "shell/qt/style.h"
@@ -103,16 +104,19 @@ WidgetView& ScreenWindow::ViewOf(const std::string& field) {
 
 void ScreenWindow::Refresh() {
   if (!screen_.shown && !isVisible()) return;
-  const bool first = !built_;
-  if (first) Build();
+  if (!built_) Build();
   PushFields();
-  if (first) Settle();
   ShowOrHide();
 }
 
 void ScreenWindow::PushFields() {
   const QPointer<QWidget> focusBefore = focusWidget();
+  // Laid out when all is as it will be: what is between has never to fit, and costs no time.
+  QLayout* content = centralWidget()->layout();
+  content->setEnabled(false);
   for (const auto& view : views_) view->Refresh();
+  content->setEnabled(true);
+  content->activate();
   for (const auto& menu : menus_) menu->Refresh();
   if (title_ != screen_.title) {
     title_ = screen_.title;
@@ -183,9 +187,11 @@ void ScreenWindow::ShowOrHide() {
   if (screen_.shown == isVisible()) return;
   awaitedFocus_.clear();
   if (!screen_.shown) {
+    places_[shownLook_] = geometry();
     hide();
     return;
   }
+  TakePlace();
   FocusFirst();
   if (minimised_) {
     minimised_ = false;
@@ -195,9 +201,44 @@ void ScreenWindow::ShowOrHide() {
   }
 }
 
+std::string ScreenWindow::LookShown() const {
+  std::string look;
+  for (const Field* field : screen_.fields) {
+    if (!field->visible) continue;
+    if (field->kind == FieldKind::Group) look += field->name + ' ';
+    if (field->kind == FieldKind::Grid) {
+      look += std::to_string(static_cast<const GridField*>(field)->Rows()) + ' ';
+    }
+  }
+  return look;
+}
+
+void ScreenWindow::TakePlace() {
+  shownLook_ = LookShown();
+  if (const auto place = places_.find(shownLook_); place != places_.end()) {
+    setGeometry(place->second);
+  } else {
+    Settle();
+  }
+}
+
+/// What changed within groups while the window was hidden reaches the layouts around them only
+/// here: from within to without.
+void ScreenWindow::LayOut() {
+  QList<QWidget*> widgets = findChildren<QWidget*>();
+  std::reverse(widgets.begin(), widgets.end());
+  widgets.append(this);
+  for (const QWidget* widget : std::as_const(widgets)) {
+    if (widget->layout() == nullptr || widget->window() != this) continue;
+    widget->layout()->invalidate();
+    widget->layout()->activate();
+  }
+}
+
 /// Gives the window its first size and place. One with an opener is as large as its content asks
 /// for, and stands in the middle of the opener.
 void ScreenWindow::Settle() {
+  LayOut();
   const QRect desktop = screen()->availableGeometry();
   const QSize wanted = opener_ == nullptr ? PreferredSize : sizeHint();
   resize(wanted.boundedTo(desktop.size() - FrameRoom).expandedTo(minimumSizeHint()));
@@ -258,6 +299,8 @@ void ScreenWindow::PressEscape() {
                                   [](const CoverPages& each) { return each.field->visible; });
   if (cover != covers_.end()) {
     static_cast<QPushButton*>(cover->closer)->click();
+  } else if (screen_.escape != nullptr) {
+    static_cast<QPushButton*>(ViewOf(screen_.escape->name).Widget())->click();
   } else if (opener_ != nullptr) {
     close();
   }

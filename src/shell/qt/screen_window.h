@@ -4,6 +4,7 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -17,7 +18,8 @@
 namespace bkconf {
 
 /// Appears and disappears with `Screen::shown`; what is in it is made when it appears first. Where
-/// the user puts it, and how large, holds until the program ends.
+/// the user puts it, and how large, holds until the program ends, for each look of the screen: that
+/// is, for the groups that it shows as it opens, and the rows of its grids.
 class ScreenWindow : public QMainWindow {
  public:
   /// `opener` is the window that waits until this one is closed, and owns it; null for one that
@@ -51,6 +53,9 @@ class ScreenWindow : public QMainWindow {
   void FocusNext(const QWidget* after);
 
   void ShowOrHide();
+  std::string LookShown() const;
+  void TakePlace();
+  void LayOut();
   void Settle();
   const ButtonField* EnterInFocus() const;
   void PressEnter();
@@ -66,6 +71,8 @@ class ScreenWindow : public QMainWindow {
   std::vector<CoverPages> covers_;
   std::string title_;
   bool minimised_ = false;
+  std::string shownLook_;                ///< of the last time that it appeared
+  std::map<std::string, QRect> places_;  ///< by look
   const ButtonField* enter_ = nullptr;
   QPointer<QWidget> awaitedFocus_;  ///< had the focus when it was disabled or hidden
   QPointer<QWidget> standIn_;       ///< got the focus then

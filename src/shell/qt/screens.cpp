@@ -3,14 +3,18 @@
 #include <array>
 #include <map>
 
+#include "output/button_screen.h"
+#include "output/output_screen.h"
 #include "shell/directory_picker.h"
 #include "shell/directory_screen.h"
 #include "shell/main_window.h"
 #include "shell/open_dialog.h"
+#include "shell/qt/layouts/button_screen.h"
 #include "shell/qt/layouts/directory_picker.h"
 #include "shell/qt/layouts/directory_screen.h"
 #include "shell/qt/layouts/main_window.h"
 #include "shell/qt/layouts/open_dialog.h"
+#include "shell/qt/layouts/output_screen.h"
 #include "shell/qt/layouts/save_dialog.h"
 #include "shell/save_dialog.h"
 
@@ -23,6 +27,8 @@ constexpr auto Rows = std::to_array<ScreenRow>({
     {&SaveDialog, SaveDialogLayout, &MainWindow},
     {&DirectoryScreen, DirectoryScreenLayout, &MainWindow},
     {&DirectoryPicker, DirectoryPickerLayout, &DirectoryScreen},
+    {&ButtonScreen, ButtonScreenLayout, &MainWindow},
+    {&OutputScreen, OutputScreenLayout, &MainWindow},
 });
 
 }  // namespace

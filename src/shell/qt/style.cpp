@@ -139,7 +139,13 @@ void ApplyLook(Look look, QWidget& widget) {
       widget.setFont(CardStyle::Bold(widget.font()));
       return;
     case Look::Path:
-      if (auto* label = dynamic_cast<ShortenedLabel*>(&widget)) label->Shorten();
+      if (auto* label = dynamic_cast<FittingLabel*>(&widget)) label->Shorten();
+      return;
+    case Look::Wrapped:
+      if (auto* label = dynamic_cast<FittingLabel*>(&widget)) label->Wrap();
+      return;
+    case Look::Sentence:
+      if (auto* label = dynamic_cast<FittingLabel*>(&widget)) label->KeepLines(2);
       return;
   }
 }

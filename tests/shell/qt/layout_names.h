@@ -10,7 +10,8 @@ namespace bkconf {
 
 inline QStringList NamesIn(const Part& part) {
   QStringList names;
-  const bool hasLabel = part.kind == PartKind::Line || part.kind == PartKind::Below;
+  const bool hasLabel =
+      part.kind == PartKind::Line || part.kind == PartKind::Below || part.kind == PartKind::Inside;
   if (hasLabel) names.append(ToQt(part.label));
   // A cover names the field that lies over the others, which has its place within.
   if (!part.field.empty() && part.kind != PartKind::Cover) names.append(ToQt(part.field));

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QTest>
 
+#include "image/module_directory.h"
 #include "layout_names.h"
 #include "link/transfer.h"
 #include "session/language.h"
@@ -109,7 +110,7 @@ class MainWindowViewTest : public QObject {
   void EveryKindFits_data() { AddKinds(); }
   void EveryKindFits() {
     QFETCH(int, row);
-    ShowKindWithCells(ModuleKinds[static_cast<std::size_t>(row)]);
+    ShowRow(row);
     QVERIFY(window_->width() <= 1014 && window_->height() <= 660);
     const QRect area = window_->rect();
     for (const QWidget* widget : VisibleFields()) {
@@ -126,7 +127,7 @@ class MainWindowViewTest : public QObject {
   void NoTwoFieldsCoverEachOther_data() { AddKinds(); }
   void NoTwoFieldsCoverEachOther() {
     QFETCH(int, row);
-    ShowKindWithCells(ModuleKinds[static_cast<std::size_t>(row)]);
+    ShowRow(row);
     const QList<QWidget*> fields = VisibleFields();
     for (const QWidget* one : fields) {
       for (const QWidget* other : fields) {
@@ -140,7 +141,7 @@ class MainWindowViewTest : public QObject {
   void TheTabulatorGoesInReadingOrder_data() { AddKinds(); }
   void TheTabulatorGoesInReadingOrder() {
     QFETCH(int, row);
-    ShowKindWithCells(ModuleKinds[static_cast<std::size_t>(row)]);
+    ShowRow(row);
     for (const auto& button : MainWindow.actionButtons) button->onClick = [] {};
     window_->Refresh();
     QStringList expected = NamesIn(MainWindowLayout());
@@ -161,7 +162,7 @@ class MainWindowViewTest : public QObject {
   void EveryFieldHasANameForAScreenReader_data() { AddKinds(); }
   void EveryFieldHasANameForAScreenReader() {
     QFETCH(int, row);
-    ShowKindWithCells(ModuleKinds[static_cast<std::size_t>(row)]);
+    ShowRow(row);
     for (QWidget* widget : VisibleFields()) {
       const QByteArray name = widget->objectName().toUtf8();
       if (widget->objectName() == QStringLiteral("status")) continue;  // empty now and then
@@ -202,12 +203,30 @@ class MainWindowViewTest : public QObject {
   }
 
  private:
+  /// All kinds, and a master with its configuration page.
   static void AddKinds() {
     QTest::addColumn<int>("row");
     for (int row = 0; const ModuleKind& kind : ModuleKinds) {
       QTest::newRow(kind.identity.data()) << row;
       ++row;
     }
+    QTest::newRow("module page") << PageRow;
+    QTest::newRow("add a module") << PageRow + 1;
+    QTest::newRow("delete a module") << PageRow + 2;
+  }
+  static constexpr int PageRow = static_cast<int>(ModuleKinds.size());
+
+  void ShowRow(int row) {
+    ShowKindWithCells(row < PageRow ? ModuleKinds[static_cast<std::size_t>(row)] : *FindKind(9));
+    if (row < PageRow) return;
+    DirectoryLetter(0) = int{'E'};
+    DirectoryType(0) = 2;
+    DirectoryLetter(1) = EmptyCell;
+    OpenModulePage();
+    EnableModulePage(true);
+    if (row > PageRow) MainWindow.modulePage.modules.DoubleClick(row == PageRow + 1 ? 2 : 1, 1);
+    window_->Refresh();
+    QCoreApplication::processEvents();
   }
 
   void ShowKindWithCells(const ModuleKind& kind) {

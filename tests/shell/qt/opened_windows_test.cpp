@@ -19,13 +19,14 @@ struct SampleScreen : Screen {
     first.onClick = [] {};
   }
 
+  GroupField group{*this, "group"};
   ButtonField first{*this, "first"};
   TextField text{*this, "text"};
   ButtonField second{*this, "second"};
 };
 
 Part SampleLayout() {
-  return Column({Item("text"), Item("first"), Item("second")});
+  return Column({Item("text"), Hidable("group", Item("first")), Item("second")});
 }
 
 int layoutsMade = 0;
@@ -141,6 +142,24 @@ class OpenedWindowsTest : public QObject {
     Close();
     Open();
     QCOMPARE(openedWindow_->geometry(), QRect(30, 40, 420, 310));
+  }
+
+  void EachLookOfAScreenHasItsOwnSizeAndPlace() {
+    Open();
+    openedWindow_->setGeometry(30, 40, 420, 310);
+    Close();
+    opened_->group.visible = false;
+    Open();
+    QCOMPARE(openedWindow_->size(), openedWindow_->sizeHint());
+    openedWindow_->setGeometry(50, 60, 320, 210);
+    Close();
+    opened_->group.visible = true;
+    Open();
+    QCOMPARE(openedWindow_->geometry(), QRect(30, 40, 420, 310));
+    Close();
+    opened_->group.visible = false;
+    Open();
+    QCOMPARE(openedWindow_->geometry(), QRect(50, 60, 320, 210));
   }
 
   void AnErrorIsToldOverTheWindowThatTheEventOpened() {

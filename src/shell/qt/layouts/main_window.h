@@ -26,6 +26,27 @@ inline Part DataGroupPart(DataGroup group, const std::string& prefix,
                Column({Form(std::move(lines)), Tiles(2, ActionButtonsOf(group)), Space()}));
 }
 
+/// The configuration page of a master: the list of modules with its scan, beside it the clock, and
+/// at the right what adds or deletes a module.
+inline Part ModulePagePart() {
+  const Part list = Tight(
+      {Row({Item("modulesLabel"), Space(), Item("scan")}), Labelled("modulesLabel", "modules")});
+  const Part clock =
+      Frame("clockGroup", Tight({Wide(56, Item("clockText", Look::Wrapped)),
+                                 Row({Labelled("downLabel", "down"), Item("downLabel"), Space()}),
+                                 Row({Labelled("upLabel", "up"), Item("upLabel"), Space()})}));
+  const Part add =
+      Frame("addGroup", Tight({Item("addHeading"), Item("addLetterLabel"), Item("addTypeLabel"),
+                               Row({Labelled("addLetterLabel", "addLetter"),
+                                    Share(1, Labelled("addTypeLabel", "addType"))}),
+                               Row({Space(), Item("addConfirm"), Item("addLeave")})}));
+  const Part remove =
+      Frame("deleteGroup",
+            Column({Item("deleteQuestion"), Row({Space(), Item("deleteYes"), Item("deleteNo")})}));
+  return Frame("modulePage", Row({Share(3, list), Share(4, Column({clock, Space()})),
+                                  Share(3, Pile({Kept(add), remove}))}));
+}
+
 inline Part MainWindowLayout() {
   const Part selection =
       Column({Row({Item("moduleListLabel"), Share(1, Labelled("moduleListLabel", "moduleList"))}),
@@ -43,7 +64,7 @@ inline Part MainWindowLayout() {
        DataGroupPart(DataGroup::Alarm, "alarm", {Line("detectorCountLabel", "detectorCount")}),
        DataGroupPart(DataGroup::Special, "special")});
   const Part window =
-      Column({Row({Share(1, selection), Share(2, module)}), Rule(),
+      Column({Row({Share(1, selection), Share(2, module)}), ModulePagePart(), Rule(),
               Row({Share(2, Item("status")), Share(1, Labelled("status", "transferBar"))})});
   const Part manual = Column({Row({Space(), Item("closeManual")}), Item("manual")});
   return Cover("manual", window, manual);
