@@ -14,7 +14,8 @@ namespace {
 class ModuleScanTest : public ModulePageTest {
  protected:
   virtual_module::Module& PlugMaster() {
-    return Plug({9, virtual_module::LoadImage(std::filesystem::path(DEMO_HOUSE) / "Master.BK1")});
+    return Plug(
+        {9, virtual_module::LoadImage(std::filesystem::path(BKCONF_DEMO_HOUSE) / "Master.BK1")});
   }
   /// The master is read, its list in memory is another one, and its page is open.
   void OpenOther(int language = 1) {
