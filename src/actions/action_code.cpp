@@ -30,6 +30,10 @@ bool HoldsAction(const Cell& target) {
   return (code >= 'A' && code <= ContextLetter) || code == CorvelaLetter;
 }
 
+bool HoldsModuleAction(const Cell& target) {
+  return HoldsAction(target) && target.Number() != CorvelaLetter;
+}
+
 std::string TwoDigits(double number) {
   const std::string text = PlainText(number);
   return text.size() < 2 ? text : text.substr(text.size() - 2);

@@ -13,7 +13,6 @@ namespace {
 
 constexpr int RelayKind = 0;
 constexpr int TemperatureKind = 2;
-constexpr int DisplayKind = 3;
 constexpr int RelayDcKind = 4;
 constexpr int AudioKind = 6;
 constexpr int SimulationKind = 7;
@@ -157,13 +156,15 @@ TemperatureChoice::TemperatureChoice(Screen& screen, const std::string& name, Op
       room(screen, name + "Room") {}
 
 ActionPicker::ActionPicker(Screen& screen, const std::string& prefix, const PickerVariant& variant)
-    : letterLabel(screen, prefix + "LetterLabel"),
+    : heading(screen, prefix + "Heading"),
+      letterLabel(screen, prefix + "LetterLabel"),
       letter(screen, prefix + "Letter"),
       typeLabel(screen, prefix + "TypeLabel"),
       type(screen, prefix + "Type"),
       mainZone(screen, prefix + "MainZone", nullptr),
       secondaryZone(screen, prefix + "SecondaryZone", &mainZone),
       output(screen, prefix + "Output"),
+      allOutputs(screen, prefix + "AllOutputs"),
       action(screen, prefix + "Action"),
       value(screen, prefix + "Value"),
       temperatures{TemperatureChoice(screen, prefix + "RoomTemperature", nullptr),
@@ -173,6 +174,8 @@ ActionPicker::ActionPicker(Screen& screen, const std::string& prefix, const Pick
       simulationOn(screen, prefix + "SimulationOn", nullptr),
       simulationOff(screen, prefix + "SimulationOff", &simulationOn),
       variant_(variant) {
+  heading.visible = variant_.heading.has_value();
+  letterLabel.visible = !heading.visible;
   Close();
 }
 
@@ -183,7 +186,8 @@ void ActionPicker::Load() {
   for (std::size_t i = 0; i < choices.size(); ++i) {
     ::bkconf::Show(temperatures[i].option.caption, choices[i]);
   }
-  ::bkconf::Show(letterLabel.caption, TextId::LetterCaption);
+  if (variant_.heading) ::bkconf::Show(heading.caption, *variant_.heading);
+  ::bkconf::Show(letterLabel.caption, TextId::ModuleCaption);
   ::bkconf::Show(typeLabel.caption, TextId::TypeCaption);
   ::bkconf::Show(mainZone.caption, TextId::MainZone);
   ::bkconf::Show(secondaryZone.caption, TextId::SecondaryZone);
@@ -199,6 +203,7 @@ void ActionPicker::Load() {
   type.onPick = [this] { PickType(); };
   output.list.onPick = [this] { PickOutput(); };
   action.list.onPick = [this] { PickAction(); };
+  allOutputs.onChange = [this] { ChangeAllOutputs(); };
   mainZone.onChoose = secondaryZone.onChoose = [this] { OfferZoneActions(); };
 }
 
@@ -208,7 +213,9 @@ void ActionPicker::Reset() {
   letter.enabled = true;
   type.Clear();
   type.enabled = false;
-  type.visible = typeLabel.visible = true;
+  type.visible = true;
+  typeLabel.visible = !heading.visible;
+  TellTarget();
 }
 
 void ActionPicker::Close() {
@@ -221,8 +228,18 @@ char ActionPicker::Letter() const {
   return letter.Text().empty() ? '\0' : letter.Text().front();
 }
 
+bool ActionPicker::TargetKnown() const {
+  return Letter() == ContextLetter || Letter() == CorvelaLetter || Kind() != NoModule;
+}
+
+void ActionPicker::TellTarget() const {
+  if (onTarget) onTarget();
+}
+
 void ActionPicker::HideLower() {
   output.Hide();
+  output.list.enabled = true;
+  allOutputs.visible = allOutputs.checked = false;
   action.Hide();
   value.Hide();
   HideOptions(mainZone);
@@ -249,6 +266,7 @@ void ActionPicker::PickLetter() {
     // A DC relay module shows itself as a relay module here; both are stored alike.
     ShowKind(ActiveCode() == RelayDcKind ? RelayKind : ActiveCode());
   }
+  TellTarget();
 }
 
 /// A plain module does not know the installation: the installer names the type of the target.
@@ -259,24 +277,22 @@ void ActionPicker::AskType() {
 
 /// The type is known, and cannot be chosen.
 void ActionPicker::ShowKind(int kind) {
-  if (kind == DisplayKind) {
-    // Such a module offers no actions.
-    type.Show(Text(TextId::NoActions));
-    type.enabled = false;
-    return;
-  }
   const auto row = std::find_if(variant_.types.begin(), variant_.types.end(),
                                 [kind](const PickerType& each) { return each.kind == kind; });
-  if (row == variant_.types.end()) return;
-  type.Show(Text(row->name));
   type.enabled = false;
+  if (row == variant_.types.end()) {
+    // A display offers no actions, and no editor offers those of every other kind.
+    type.Show(Text(TextId::NoActions));
+    return;
+  }
+  type.Show(Text(row->name));
   OfferType(kind);
 }
 
 void ActionPicker::OfferContexts() {
   type.Show(Text(TextId::ContextType));
   type.enabled = false;
-  output.Offer(Text(variant_.context), Numbers(1, Contexts));
+  output.Offer(Text(TextId::ContextCaption), Numbers(1, Contexts));
 }
 
 void ActionPicker::OfferCodes() {
@@ -296,6 +312,7 @@ int ActionPicker::Kind() const {
 void ActionPicker::PickType() {
   HideLower();
   OfferType(Kind());
+  TellTarget();
 }
 
 void ActionPicker::OfferType(int kind) {
@@ -306,6 +323,8 @@ void ActionPicker::OfferType(int kind) {
   if (target == nullptr) return;
   output.Offer(Text(target->detectors ? variant_.detector : variant_.output),
                Numbers(1, target->outputs));
+  allOutputs.visible = variant_.offersAllOutputs;
+  allOutputs.caption = Text(target->detectors ? TextId::AllDetectors : TextId::AllOutputs);
   const bool waits = target->switching == Switching::FirstFourOfEight;
   action.Offer(Text(variant_.action),
                waits ? std::vector<std::string>() : SwitchItems(target->switching));
@@ -343,22 +362,36 @@ void ActionPicker::OfferSimulation() {
 
 // --- Below --------------------------------------------------------------------------------------
 
+/// What was picked stays where the same is offered again.
 void ActionPicker::PickOutput() {
   const Target* target = FindTarget(Kind());
   if (target == nullptr || target->switching != Switching::FirstFourOfEight) return;
   const bool dims = output.list.Index() < DimmingOutputs;
+  auto items = SwitchItems(dims ? Switching::Percentages : Switching::Toggle);
+  if (items != action.list.items) action.Offer(Text(variant_.action), std::move(items));
+}
+
+/// With all outputs meant there is none to choose, and a module of which only some dim is offered
+/// what those do; the others take part.
+void ActionPicker::ChangeAllOutputs() {
+  const bool all = allOutputs.checked;
+  output.list.Clear();
+  output.list.enabled = !all;
+  const Target* target = FindTarget(Kind());
+  if (target == nullptr || target->switching != Switching::FirstFourOfEight) return;
   action.Offer(Text(variant_.action),
-               SwitchItems(dims ? Switching::Percentages : Switching::Toggle));
+               all ? SwitchItems(Switching::Percentages) : std::vector<std::string>());
 }
 
 void ActionPicker::PickAction() {
   if (Kind() != AudioKind) return;
-  const int firstValue = mainZone.Chosen() ? FirstMainValue : FirstSecondaryValue;
-  if (action.list.Index() < firstValue) {
+  const int place = action.list.Index();
+  if (place < (mainZone.Chosen() ? FirstMainValue : FirstSecondaryValue)) {
     value.Hide();
-  } else {
+  } else if (!value.list.visible || place != valueFor_) {
     value.Offer(Text(TextId::ValueCaption), Numbers(1, Zones));
   }
+  valueFor_ = place;
 }
 
 // --- The cells ----------------------------------------------------------------------------------
@@ -379,7 +412,7 @@ std::optional<ActionCells> ActionPicker::Compose() const {
     if (number < 0 || action.list.Index() < 0) return std::nullopt;
     return ActionCells{int{CorvelaLetter}, Number(number), Number(action.list.Index())};
   }
-  switch (const int kind = Kind()) {
+  switch (Kind()) {
     case TemperatureKind:
       return ComposeTemperature();
     case AudioKind:
@@ -387,16 +420,28 @@ std::optional<ActionCells> ActionPicker::Compose() const {
     case SimulationKind:
       return ComposeSimulation();
     default:
-      return ComposeOutput(kind);
+      return ComposeOutput(number);
   }
 }
 
-std::optional<ActionCells> ActionPicker::ComposeOutput(int kind) const {
-  const int place = action.list.Index();
-  if (FindTarget(kind) == nullptr || output.list.Index() < 0 || place < 0) return std::nullopt;
+std::vector<ActionCells> ActionPicker::ComposeEach() const {
+  std::vector<ActionCells> each;
+  const Target* target = FindTarget(Kind());
+  const bool all = target != nullptr && allOutputs.checked;
+  for (int place = 0; all && place < target->outputs; ++place) {
+    if (const auto cells = ComposeOutput(place)) each.push_back(*cells);
+  }
+  if (all) return each;
+  if (const auto cells = Compose()) each.push_back(*cells);
+  return each;
+}
+
+std::optional<ActionCells> ActionPicker::ComposeOutput(int place) const {
+  const int what = action.list.Index();
+  if (FindTarget(Kind()) == nullptr || place < 0 || what < 0) return std::nullopt;
   // Percentages are numbers in every form.
-  const Cell what = place < SwitchActions ? Number(place) : Cell((place - 2) * 10);
-  return ActionCells{int{Letter()}, Number(output.list.Index()), what};
+  return ActionCells{int{Letter()}, Number(place),
+                     what < SwitchActions ? Number(what) : Cell((what - 2) * 10)};
 }
 
 std::optional<ActionCells> ActionPicker::ComposeTemperature() const {

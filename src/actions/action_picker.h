@@ -27,38 +27,80 @@ enum class StoredForm { Numbers, TwoDigitTexts };
 
 /// What the pickers of the editors differ in.
 struct PickerVariant {
-  bool offersContexts;  ///< the letter 'S'
-  TextId prompt;        ///< what the type field shows while the type has to be chosen
-  TextId output;
-  TextId detector;
-  TextId action;
-  TextId context;
-  TextId code;
   std::span<const PickerType> types;
-  StoredForm form;
+  /// In place of the captions of letter and type: one over both.
+  std::optional<TextId> heading = std::nullopt;
+  TextId prompt = TextId::TypePrompt;  ///< what the type field shows until the type is chosen
+  TextId output = TextId::OutputCaption;
+  TextId detector = TextId::DetectorCaption;
+  TextId action = TextId::ActionCaption;
+  TextId code = TextId::CodeName;
+  bool offersContexts = true;     ///< the letter 'S'
+  bool offersAllOutputs = false;  ///< a box that stands for every output of the target
+  StoredForm form = StoredForm::Numbers;
 };
 
 inline constexpr auto ButtonPickerTypes = std::to_array<PickerType>({
-    {TextId::RelayType, 0},
+    {TextId::RelayModule, 0},
     {TextId::DimType, 1},
     {TextId::TemperatureType, 2},
-    {TextId::RelayDcType, 4},
-    {TextId::AlarmType, 5},
-    {TextId::AudioType, 6},
-    {TextId::SimulationType, 7},
+    {TextId::RelayDcModule, 4},
+    {TextId::AlarmModule, 5},
+    {TextId::AudioInterface, 6},
+    {TextId::SimulationModule, 7},
     {TextId::LumenzaType, 11},
 });
 
+inline constexpr auto ContextPickerTypes = std::to_array<PickerType>({
+    {TextId::RelayModule, 0},
+    {TextId::DimType, 1},
+    {TextId::TemperatureType, 2},
+    {TextId::RelayDcModule, 4},
+    {TextId::AlarmModule, 5},
+    {TextId::AudioInterface, 6},
+    {TextId::SimulationModule, 7},
+    {TextId::LumenzaModule, 11},
+});
+
+inline constexpr auto TimePickerTypes = std::to_array<PickerType>({
+    {TextId::RelayModule, 0},
+    {TextId::DimType, 1},
+    {TextId::TemperatureType, 2},
+    {TextId::RelayDcModule, 4},
+    {TextId::AlarmModule, 5},
+    {TextId::AudioInterface, 6},
+    {TextId::LumenzaModule, 11},
+});
+
+inline constexpr auto LightPickerTypes = std::to_array<PickerType>({
+    {TextId::RelayModule, 0},
+    {TextId::DimType, 1},
+    {TextId::RelayDcModule, 4},
+    {TextId::LumenzaModule, 11},
+});
+
 /// The push-buttons.
-inline constexpr PickerVariant ButtonPicker{true,
-                                            TextId::TypePrompt,
-                                            TextId::OutputCaption,
-                                            TextId::DetectorCaption,
-                                            TextId::ActionCaption,
-                                            TextId::ContextCaption,
-                                            TextId::CodeCaption,
-                                            ButtonPickerTypes,
-                                            StoredForm::Numbers};
+inline constexpr PickerVariant ButtonPicker{.types = ButtonPickerTypes,
+                                            .code = TextId::CodeCaption};
+
+/// The contexts of a master. One cannot call another.
+inline constexpr PickerVariant ContextPicker{.types = ContextPickerTypes,
+                                             .heading = TextId::ModuleTypeHeading,
+                                             .prompt = TextId::ContextTypePrompt,
+                                             .output = TextId::OutputName,
+                                             .detector = TextId::DetectorName,
+                                             .action = TextId::FunctionName,
+                                             .offersContexts = false,
+                                             .offersAllOutputs = true,
+                                             .form = StoredForm::TwoDigitTexts};
+
+/// The time programmes of a master.
+inline constexpr PickerVariant TimePicker{.types = TimePickerTypes,
+                                          .heading = TextId::ModuleTypeHeading};
+
+/// The light programmes of a master.
+inline constexpr PickerVariant LightPicker{.types = LightPickerTypes,
+                                           .heading = TextId::LightModuleTypeHeading};
 
 /// A list with its caption; both appear and disappear together.
 struct LabelledList {
@@ -102,16 +144,25 @@ class ActionPicker {
   /// The three cells of the action that the fields make up, or none while one of them that its type
   /// needs is empty.
   std::optional<ActionCells> Compose() const;
+  /// The same for every output while they are all meant: one action each. None while a field is
+  /// empty.
+  std::vector<ActionCells> ComposeEach() const;
 
   /// The letter that is picked, or '\0'.
   char Letter() const;
+  /// True once it is known what the action is done to, by whatever way.
+  bool TargetKnown() const;
+  /// Runs after letter or type changed, by a pick or by `Reset`.
+  std::function<void()> onTarget;
 
+  LabelField heading;
   LabelField letterLabel;
   ListField letter;
   LabelField typeLabel;
   ListField type;
   OptionField mainZone, secondaryZone;
   LabelledList output;
+  CheckField allOutputs;
   LabelledList action;
   LabelledList value;
   /// A temperature in a room, the base in a room, a temperature in all rooms, the base in all
@@ -125,6 +176,8 @@ class ActionPicker {
   void PickType();
   void PickOutput();
   void PickAction();
+  void ChangeAllOutputs();
+  void TellTarget() const;
   void OfferContexts();
   void OfferCodes();
   void OfferType(int kind);
@@ -136,12 +189,13 @@ class ActionPicker {
   void AskType();
   int Kind() const;
   Cell Number(int number) const;
-  std::optional<ActionCells> ComposeOutput(int kind) const;
+  std::optional<ActionCells> ComposeOutput(int place) const;
   std::optional<ActionCells> ComposeTemperature() const;
   std::optional<ActionCells> ComposeAudio() const;
   std::optional<ActionCells> ComposeSimulation() const;
 
   const PickerVariant& variant_;
+  int valueFor_ = -1;  ///< the place in the action list that the values are offered for
 };
 
 }  // namespace bkconf

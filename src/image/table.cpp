@@ -14,4 +14,10 @@ std::size_t Table::Checked(int index) const {
   return static_cast<std::size_t>(index);
 }
 
+void Table::Fill(int first, int last, const Cell& value) {
+  Checked(first);
+  Checked(last);
+  for (int index = first; index <= last; ++index) (*this)[index] = value;
+}
+
 }  // namespace bkconf

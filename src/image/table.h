@@ -22,6 +22,9 @@ class Table {
   /// Throws RuntimeError (IndexOutsideTable) with the table's name and the index.
   Cell& operator[](int index) { return cells_[Checked(index)]; }
   const Cell& operator[](int index) const { return cells_[Checked(index)]; }
+  /// Puts the value into the cells from `first` to `last`. Throws as above, and nothing is changed
+  /// then.
+  void Fill(int first, int last, const Cell& value);
 
  private:
   std::size_t Checked(int index) const;

@@ -59,16 +59,16 @@ struct ListedType {
 /// In the order of the list of types to add. Code 9 is the master itself and 10 is free, so the
 /// last place means 11.
 constexpr auto ListedTypes = std::to_array<ListedType>({
-    {0, TextId::RelayType, TextId::RelayType},
+    {0, TextId::RelayModule, TextId::RelayModule},
     {1, TextId::DimType, TextId::DimType},
-    {2, TextId::TemperatureListed, TextId::TemperatureType},
+    {2, TextId::TemperatureModule, TextId::TemperatureType},
     {3, TextId::DisplayListed, TextId::DisplayListed},
-    {4, TextId::RelayDcType, TextId::RelayDcType},
-    {5, TextId::AlarmType, TextId::AlarmType},
-    {6, TextId::AudioType, TextId::AudioType},
-    {7, TextId::SimulationType, TextId::SimulationType},
-    {8, TextId::IrListed, TextId::IrListed},
-    {11, TextId::LumenzaListed, TextId::LumenzaListed},
+    {4, TextId::RelayDcModule, TextId::RelayDcModule},
+    {5, TextId::AlarmModule, TextId::AlarmModule},
+    {6, TextId::AudioInterface, TextId::AudioInterface},
+    {7, TextId::SimulationModule, TextId::SimulationModule},
+    {8, TextId::IrModule, TextId::IrModule},
+    {11, TextId::LumenzaModule, TextId::LumenzaModule},
 });
 
 ModulePageFields* fields = nullptr;
@@ -166,6 +166,7 @@ int FirstEmptyRow() {
 }
 
 void ConfirmAdd() {
+  if (!fields->addGroup.visible) return;
   if (fields->addLetter.Index() < 0 || fields->addType.Index() < 0) return;
   const int row = FirstEmptyRow();
   if (row == DirectoryRows) return;
@@ -234,7 +235,7 @@ void ShowCaptions() {
            {&fields->upLabel.caption, TextId::MinutesUp},
            {&fields->addGroup.caption, TextId::AddTitle},
            {&fields->addHeading.caption, TextId::ModuleTypeHeading},
-           {&fields->addLetterLabel.caption, TextId::LetterCaption},
+           {&fields->addLetterLabel.caption, TextId::ModuleCaption},
            {&fields->addTypeLabel.caption, TextId::TypeCaption},
            {&fields->addConfirm.caption, TextId::Confirm},
            {&fields->addLeave.caption, TextId::Leave},
@@ -277,8 +278,12 @@ void LoadModulePage(ModulePageFields& ofWindow) {
   LinkHandlers[static_cast<std::size_t>(LinkEvent::ModuleListRead)] = DrawList;
 }
 
-void OpenModulePage() {
+void SelectMaster() {
   if (ActiveCode() == MasterKind) Window.showModel(*ActiveKind());
+}
+
+void OpenModulePage() {
+  SelectMaster();
   ShowCorrection(fields->down, ButtonImage[DownCell]);
   ShowCorrection(fields->up, ButtonImage[UpCell]);
   DrawList();
@@ -291,6 +296,8 @@ void HideModulePage() {
 }
 
 void EnableModulePage(bool enabled) {
+  // A scan that was left before its end has brought what it has brought.
+  if (enabled && fields->page.visible) DrawList();
   fields->modules.enabled = fields->scan.enabled = enabled;
   fields->down.enabled = fields->up.enabled = enabled;
   fields->addLetter.enabled = fields->addType.enabled = enabled;

@@ -43,6 +43,8 @@ struct ModulePageFields {
 void LoadModulePage(ModulePageFields& fields);
 /// What the button "Configuratie" / "Configuration" does: shows the page of the master in memory.
 void OpenModulePage();
+/// Selects the master in the main window, as every entry to its editors does.
+void SelectMaster();
 void HideModulePage();
 /// During a transfer nothing on the page can be used.
 void EnableModulePage(bool enabled);

@@ -210,7 +210,7 @@ void FillPlainly(int column) {
   for (int button = 0; button < Buttons; ++button) {
     const int cell = CellOf(button, column);
     std::string code(ActionEmptyText);
-    if (HoldsAction(table[cell]) && table[cell].Number() != CorvelaLetter) {
+    if (HoldsModuleAction(table[cell])) {
       code = ActionCode(table[cell], table[cell + 1], table[cell + 2], ValueForm::AsStored);
     } else {
       EraseAction(table, cell);
@@ -221,6 +221,7 @@ void FillPlainly(int column) {
 
 void ShowBaseQuestion(bool shown) {
   ButtonScreen.baseGroup.visible = shown;
+  ButtonScreen.enter = shown ? &ButtonScreen.baseYes : &ButtonScreen.store;
   ButtonScreen.escape = shown ? &ButtonScreen.baseNo : nullptr;
 }
 

@@ -123,6 +123,7 @@ void PickFunction() {
 /// Incomplete fields store nothing, and nothing is said. What another function needs stays in its
 /// cell: it is just not shown.
 void ConfirmFunction() {
+  if (!OutputScreen.shown || !OutputScreen.editGroup.visible) return;
   const int output = OutputScreen.output.Index();
   const int place = OutputScreen.function.Index();
   if (output < 0 || place < 0) return;
@@ -147,7 +148,7 @@ void DrawStartValues() {
 }
 
 void ConfirmStart() {
-  if (!OutputScreen.shown) return;
+  if (!OutputScreen.shown || !OutputScreen.startEditGroup.visible) return;
   const int channel = OutputScreen.channel.Index();
   if (channel < 0 || OutputScreen.start.Index() < 0) return;
   ButtonImage[StartCell + channel] = OutputScreen.start.Index() + 1;
@@ -212,9 +213,8 @@ void FillLists() {
 }
 
 void OpenFunctions() {
-  OutputScreen.functions.columns = {{Say(TextId::OutputColumn), 2},
-                                    {Say(TextId::FunctionColumn), 5},
-                                    {Say(TextId::TimeColumn), 2}};
+  OutputScreen.functions.columns = {
+      {Say(TextId::OutputColumn), 2}, {Say(TextId::FunctionName), 5}, {Say(TextId::TimeColumn), 2}};
   OutputScreen.functions.Resize(Outputs);
   OutputScreen.output.Clear();
   OutputScreen.function.Clear();
@@ -228,7 +228,7 @@ void OpenFunctions() {
 
 void OpenStartValues() {
   OutputScreen.startValues.columns = {{Say(TextId::ChannelColumn), 1200},
-                                      {Say(TextId::StartValueColumn), 800}};
+                                      {Say(TextId::ValueName), 800}};
   OutputScreen.startValues.Resize(ActiveCode() == LumenzaKind ? LumenzaOutputs : Channels);
   OutputScreen.channel.Clear();
   OutputScreen.start.Clear();

@@ -42,6 +42,12 @@ void ListField::Type(std::string_view text) {
   }
 }
 
+void CalendarField::Pick(const Date& day) {
+  if (!enabled || !visible) return;
+  day_ = day;
+  if (onPick) onPick();
+}
+
 void ListBoxField::SetItems(std::vector<std::string> items) {
   items_ = std::move(items);
   index_ = -1;

@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/date.h"
+
 namespace bkconf {
 
 struct ButtonField;
@@ -22,6 +24,7 @@ enum class FieldKind {
   Check,
   Option,
   Grid,
+  Calendar,
   Button,
   Progress,
   Picture,
@@ -220,6 +223,25 @@ struct GridField : Field {
   std::vector<std::vector<std::string>> cells_;
   int row_ = 0;
   int column_ = 0;
+};
+
+/// The days of a month, to pick one; the months can be leafed through.
+struct CalendarField : Field {
+  CalendarField(Screen& screen, std::string_view fieldName)
+      : Field(screen, FieldKind::Calendar, fieldName) {
+    visible = false;
+  }
+
+  std::function<void()> onPick;  ///< runs after a day was picked
+
+  const Date& Day() const { return day_; }
+  /// Shows a day and its month without running the handler.
+  void Show(const Date& day) { day_ = day; }
+  /// Picks a day and runs the handler. In a disabled or hidden calendar nothing changes.
+  void Pick(const Date& day);
+
+ private:
+  Date day_;
 };
 
 /// A button. Without a handler it is shown disabled, since there is nothing that it could do.

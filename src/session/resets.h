@@ -76,6 +76,13 @@ struct KeptCopy {
 };
 inline constexpr auto KeptCopies = std::to_array<KeptCopy>({{2, {&TempHeader, 1}, &TempRoomCount}});
 
+/// Tables that no file holds: opening one fills them with 42, as start-up does.
+struct WorkTable {
+  int kind;
+  Table* table;
+};
+inline constexpr auto WorkTables = std::to_array<WorkTable>({{9, &ContextWork}});
+
 /// Sets each of the cells to 0.
 inline void Clear(std::span<Cell* const> cells) {
   for (Cell* cell : cells) *cell = 0;

@@ -2,7 +2,10 @@
 
 #include <array>
 
+#include "master/context_screen.h"
+#include "master/light_program_screen.h"
 #include "master/module_page.h"
+#include "master/time_program_screen.h"
 #include "output/button_screen.h"
 #include "output/output_screen.h"
 #include "shell/action_buttons.h"
@@ -20,10 +23,15 @@ constexpr auto Openers = std::to_array<Opener>({
     {Action::SecondFunctionTime, OpenSecondFunctionTime},
     {Action::OutputFunctions, OpenOutputScreen},
     {Action::DimStartValues, OpenOutputScreen},
+    {Action::Contexts, OpenContextScreen},
+    {Action::TimePrograms, OpenTimeProgramScreen},
+    {Action::LightPrograms, OpenLightProgramScreen},
     {Action::Configuration, OpenModulePage},
 });
 
-constexpr auto Loaders = std::to_array<void (*)()>({LoadButtonScreen, LoadOutputScreen});
+constexpr auto Loaders =
+    std::to_array<void (*)()>({LoadButtonScreen, LoadOutputScreen, LoadContextScreen,
+                               LoadTimeProgramScreen, LoadLightProgramScreen});
 
 }  // namespace
 

@@ -332,11 +332,11 @@ void FillLists() {
 }
 
 void ShowCaptions() {
-  Show(MainWindow.actionGroup.caption, TextId::ActionGroup);
+  Show(MainWindow.actionGroup.caption, TextId::ActionCaption);
   Show(MainWindow.connect.caption, TextId::Connect);
   Show(MainWindow.send.caption, TextId::Send);
   Show(MainWindow.upgrade.caption, TextId::Upgrade);
-  Show(MainWindow.moduleListLabel.caption, TextId::ModuleListLabel);
+  Show(MainWindow.moduleListLabel.caption, TextId::ModuleCaption);
   Show(MainWindow.moreInfo.caption, TextId::MoreInfo);
   Show(MainWindow.infoInductive.caption, TextId::InfoInductive);
   Show(MainWindow.infoCapacitive.caption, TextId::InfoCapacitive);

@@ -41,6 +41,9 @@ void SetFlags() {
   for (const KeptCopy& kept : KeptCopies) {
     if (kept.kind == ActiveCode()) *kept.copy = (*kept.original.table)[kept.original.index];
   }
+  for (const WorkTable& work : WorkTables) {
+    if (work.kind == ActiveCode()) work.table->Fill(0, work.table->Size() - 1, EmptyCell);
+  }
 }
 
 void ShowFile() {

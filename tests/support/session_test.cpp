@@ -8,6 +8,9 @@
 #include "image/tables.h"
 #include "link/link_ticks.h"
 #include "link/transfer.h"
+#include "master/context_screen.h"
+#include "master/light_program_screen.h"
+#include "master/time_program_screen.h"
 #include "output/button_screen.h"
 #include "output/output_screen.h"
 #include "session/settings.h"
@@ -45,6 +48,9 @@ void ResetGlobals() {
   MakeAnew(DirectoryPicker);
   MakeAnew(ButtonScreen);
   MakeAnew(OutputScreen);
+  MakeAnew(ContextScreen);
+  MakeAnew(TimeProgramScreen);
+  MakeAnew(LightProgramScreen);
 }
 
 void DisableTicks() {

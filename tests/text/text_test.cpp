@@ -22,13 +22,13 @@ struct Pair {
 /// Written down apart from the table, letter for letter.
 constexpr Pair SessionPairs[] = {
     {TextId::WindowTitle, "TREVAN BK-CONF", "TREVAN BK-CONF"},
-    {TextId::ActionGroup, "Actie:", "Action:"},
+    {TextId::ActionCaption, "Actie:", "Action:"},
     {TextId::Connect, "Verbinden", "Connecter"},
     {TextId::Send, "Versturen", "Envoyer"},
     {TextId::ModuleData, "Module gegevens:", "Données module:"},
     {TextId::ModuleAddress, "Adres module:", "Adresse module:"},
     {TextId::Version, "Versie: ", "Version: "},
-    {TextId::ModuleListLabel, "Module:", "Module:"},
+    {TextId::ModuleCaption, "Module:", "Module:"},
     {TextId::DetectorCount, "Aantal detectoren:", "Nombre détecteurs:"},
     {TextId::RoomCount, "Aantal ruimtes", "Nombre de pièces"},
     {TextId::Tolerance, "Tolerantie", "Tolérance"},
