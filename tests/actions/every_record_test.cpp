@@ -266,6 +266,17 @@ TEST_F(AnyCellsTest, OfEveryByteHaveASentenceOrNone) {
   }
 }
 
+/// For each letter the index runs through all bytes, and the value too, at another stride: every
+/// letter meets every index and every value.
+TEST_F(AnyCellsTest, OfEveryLetterWithEveryIndexAndEveryValueHaveASentenceOrNoneInBothLanguages) {
+  for (const int language : {1, 2}) {
+    Language = language;
+    for (int target = 0; target <= 255; ++target) {
+      for (int index = 0; index <= 255; ++index) Say(target, index, (7 * index + target) % 256);
+    }
+  }
+}
+
 TEST_F(AnyCellsTest, AreNormalisedToACodeOfFiveCharactersWhereTheyAreBytes) {
   Table table("Some", 3);
   for (int target = 0; target <= 255; ++target) {

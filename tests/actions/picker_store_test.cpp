@@ -8,12 +8,7 @@ namespace {
 /// The last step: the three cells, or nothing while a field that the type needs is empty.
 class PickerStoreTest : public PickerTest {
  protected:
-  void Expect(const ActionCells& cells) const {
-    const auto composed = picker.Compose();
-    ASSERT_TRUE(composed);
-    EXPECT_EQ(*composed, cells);
-  }
-  void ExpectRefused() const { EXPECT_FALSE(picker.Compose()); }
+  void Expect(const ActionCells& cells) const { ExpectCells(cells); }
 
   void PickAudio(OptionField& zone, const std::string& number, const std::string& action) {
     PickTarget('H', Audio);

@@ -16,6 +16,15 @@ void PickerTest::Begin(int language, int kind, char ownLetter) {
   picker.Reset();
 }
 
+void PickerTest::BeginOnMaster(int language) {
+  Begin(language, 9, ' ');
+  int row = 0;
+  for (const int kind : {0, 4, 1, 11, 2, 3, 5, 6, 7, 8}) {
+    List(row, 'A' + row, kind);
+    ++row;
+  }
+}
+
 void PickerTest::List(int row, const Cell& letter, const Cell& kind) {
   DirectoryLetter(row) = letter;
   DirectoryType(row) = kind;
@@ -56,6 +65,12 @@ std::vector<std::string> PickerTest::Below() const {
   EXPECT_EQ(picker.action.label.visible, picker.action.list.visible);
   EXPECT_EQ(picker.value.label.visible, picker.value.list.visible);
   return shown;
+}
+
+void PickerTest::ExpectCells(const ActionCells& cells) const {
+  const auto composed = picker.Compose();
+  ASSERT_TRUE(composed);
+  EXPECT_EQ(*composed, cells);
 }
 
 Items Numbers(int first, int last) {

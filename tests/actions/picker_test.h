@@ -1,5 +1,5 @@
 // The fixture of the tests of the step-by-step chooser: one on a screen of its own, as the
-// push-buttons have it.
+// push-buttons have it, or as another editor has it.
 #pragma once
 
 #include <string>
@@ -12,10 +12,15 @@ namespace bkconf {
 
 class PickerTest : public SessionTest {
  protected:
-  PickerTest() { Begin(1, 0, 'R'); }
+  explicit PickerTest(const PickerVariant& variant = ButtonPicker)
+      : picker(screen, "picker", variant) {
+    Begin(1, 0, 'R');
+  }
 
   /// The picker on an image of that kind, its letter waiting to be picked.
   void Begin(int language, int kind, char ownLetter);
+  /// The picker on a master with a module of each kind: 'A' to 'J'; 'K' is none.
+  void BeginOnMaster(int language = 1);
   /// Puts a module into a row of the master's list.
   static void List(int row, const Cell& letter, const Cell& kind);
 
@@ -28,8 +33,12 @@ class PickerTest : public SessionTest {
   /// What stands below letter and type, in the order of the screen.
   std::vector<std::string> Below() const;
 
+  /// What the fields make up, or that they make up nothing.
+  void ExpectCells(const ActionCells& cells) const;
+  void ExpectRefused() const { EXPECT_FALSE(picker.Compose()); }
+
   Screen screen{"Some"};
-  ActionPicker picker{screen, "picker", ButtonPicker};
+  ActionPicker picker;
 };
 
 using Items = std::vector<std::string>;

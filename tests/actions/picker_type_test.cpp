@@ -249,5 +249,36 @@ TEST_F(PickerTypeTest, ACodeLeavesTheOtherOne) {
   EXPECT_EQ(picker.output.list.Text(), "05");
 }
 
+TEST_F(PickerTypeTest, TheSameOutputOfALumenzaModuleAgainKeepsTheAction) {
+  PickTarget('A', Lumenza);
+  Pick(picker.output.list, "2");
+  Pick(picker.action.list, "30%");
+  Pick(picker.output.list, "2");
+  EXPECT_EQ(picker.action.list.Text(), "30%");
+  Pick(picker.output.list, "4");
+  EXPECT_EQ(picker.action.list.Text(), "30%");
+  Pick(picker.output.list, "6");
+  EXPECT_EQ(picker.action.list.Text(), "");
+  Pick(picker.action.list, "Toggle");
+  Pick(picker.output.list, "6");
+  EXPECT_EQ(picker.action.list.Text(), "Toggle");
+}
+
+TEST_F(PickerTypeTest, TheSameActionWithTwoDotsAgainKeepsTheValue) {
+  PickTarget('A', Audio);
+  picker.mainZone.Choose();
+  Pick(picker.action.list, "VOL..");
+  Pick(picker.value.list, "5");
+  Pick(picker.action.list, "VOL..");
+  EXPECT_EQ(picker.value.list.Text(), "5");
+  Pick(picker.action.list, "TRE..");
+  EXPECT_EQ(picker.value.list.Text(), "");
+  Pick(picker.value.list, "6");
+  Pick(picker.action.list, "Uit");
+  Pick(picker.action.list, "TRE..");
+  EXPECT_EQ(picker.value.list.Text(), "");
+  EXPECT_TRUE(picker.value.list.visible);
+}
+
 }  // namespace
 }  // namespace bkconf

@@ -52,5 +52,36 @@ TEST(TableTest, ATableWithoutCellsHasNoFirstOne) {
   ExpectOutside(table, 0, "None[0]");
 }
 
+TEST(TableTest, FillPutsTheValueFromTheFirstCellToTheLast) {
+  Table table{"Some", 5};
+  table.Fill(1, 3, "full");
+  EXPECT_TRUE(table[0].IsEmpty());
+  for (int index = 1; index <= 3; ++index) EXPECT_EQ(table[index], Cell("full")) << index;
+  EXPECT_TRUE(table[4].IsEmpty());
+  table.Fill(4, 4, 7);
+  EXPECT_EQ(table[4], Cell(7));
+  table.Fill(0, 4, 42);
+  for (int index = 0; index < 5; ++index) EXPECT_EQ(table[index], Cell(42)) << index;
+}
+
+TEST(TableTest, FillOutsideTheTableIsAnErrorAndChangesNothing) {
+  struct Row {
+    int first;
+    int last;
+    std::string place;
+  };
+  Table table{"Some", 3};
+  for (const Row& row : {Row{0, 3, "Some[3]"}, Row{-1, 2, "Some[-1]"}, Row{3, 3, "Some[3]"}}) {
+    try {
+      table.Fill(row.first, row.last, 1);
+      FAIL() << row.place << " was no error";
+    } catch (const RuntimeError& error) {
+      EXPECT_EQ(error.kind, ErrorKind::IndexOutsideTable);
+      EXPECT_EQ(std::string(error.what()), row.place);
+    }
+    for (int index = 0; index < 3; ++index) EXPECT_TRUE(table[index].IsEmpty()) << index;
+  }
+}
+
 }  // namespace
 }  // namespace bkconf
