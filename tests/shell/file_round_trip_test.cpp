@@ -77,6 +77,11 @@ TEST_P(RoundTripTest, WhatWasReadAndSavedIsOpenedCellByCellBehindNew) {
   if (kind == 2 && marked.at("TempRoomCount") != TempRoomCount) {
     changed.emplace_back("TempRoomCount");
   }
+  // What the contexts are edited in is no part of the file, and forgets the last image.
+  if (kind == 9) {
+    changed.emplace_back("ContextWork[0..14999]");
+    for (int cell = 0; cell < 15000; ++cell) ASSERT_EQ(ContextWork[cell], Cell(42)) << cell;
+  }
   ExpectOnlyChanged(marked, changed);
 }
 

@@ -178,13 +178,14 @@ TEST_F(MainWindowStartTest, TheWindowIsNotShownWhileASettingIsMissing) {
   EXPECT_TRUE(MainWindow.shown);
 }
 
-TEST_F(MainWindowStartTest, TheStartChangesNoTable) {
+TEST_F(MainWindowStartTest, TheStartEmptiesTheContextsToEditAndChangesNoOtherTable) {
   PutSettings();
   const Snapshot before = TakeSnapshot();
   StartSession([] {}, [](const std::string&) {});
   const Snapshot loaded = TakeSnapshot();
   LoadMainWindow();
-  ExpectOnlyChanged(loaded, {});
+  ExpectOnlyChanged(loaded, {"ContextWork[0..14999]"});
+  for (int cell = 0; cell < 15000; ++cell) ASSERT_EQ(ContextWork[cell], Cell(42)) << cell;
   for (const Table* table : AllTables) {
     const std::string first = std::string(table->name) + "[0]";
     EXPECT_EQ(loaded.at(first), before.at(first)) << first;

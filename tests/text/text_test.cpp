@@ -187,7 +187,7 @@ const std::set<TextId> BeginWithABlank = {
     TextId::WordToBass,     TextId::WordToBalance,
     TextId::InAllRooms,     TextId::InRoom,
     TextId::DegreesInRoom,  TextId::DegreesInAllRooms,
-    TextId::LinkedFor,
+    TextId::LinkedFor,      TextId::ContextFull,
 };
 
 /// Texts that something follows.
