@@ -229,7 +229,7 @@ void LayOut() {
   ContextScreen.actions.columns.assign(GridColumns, {"", width});
   ContextScreen.actions.Resize(GridRows);
   ContextScreen.chooser.items.clear();
-  for (int number = 1; number <= Contexts; ++number) {
+  for (int number = 1; number <= ContextCount; ++number) {
     ContextScreen.chooser.items.push_back(std::string(Text(TextId::ContextSentence)) +
                                           std::to_string(number));
   }

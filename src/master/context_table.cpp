@@ -10,7 +10,7 @@ namespace {
 
 /// The packed form: two cells for each context that tell where it lies, and behind them its
 /// actions. A 42 follows each context.
-constexpr int FirstDataCell = 2 * Contexts;
+constexpr int FirstDataCell = 2 * ContextCount;
 constexpr int LastDataCell = 999;
 constexpr int DataCells = LastDataCell - FirstDataCell + 1;
 
@@ -70,7 +70,7 @@ void EmptyContext(int context) {
 }
 
 void ResetContextWork() {
-  ContextWork.Fill(0, Contexts * ContextCells - 1, EmptyCell);
+  ContextWork.Fill(0, ContextCount * ContextCells - 1, EmptyCell);
 }
 
 void ResetContexts() {
@@ -81,7 +81,7 @@ void ResetContexts() {
 
 int UnpackContexts() {
   int free = DataCells;
-  for (int context = 0; context < Contexts; ++context) {
+  for (int context = 0; context < ContextCount; ++context) {
     const Cell& high = ContextTable[2 * context];
     if (high.Number() == 0) {
       EmptyContext(context);
@@ -97,9 +97,9 @@ int UnpackContexts() {
 
 int PackContexts() {
   ContextTable.Fill(FirstDataCell, LastDataCell, EmptyCell);
-  int free = DataCells - Contexts;
+  int free = DataCells - ContextCount;
   int place = FirstDataCell;
-  for (int context = 0; context < Contexts; ++context) {
+  for (int context = 0; context < ContextCount; ++context) {
     if (IsEnd(ContextCell(context, 0))) {
       ContextTable[2 * context] = ContextTable[2 * context + 1] = 0;
       continue;

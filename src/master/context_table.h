@@ -6,7 +6,7 @@
 
 namespace bkconf {
 
-inline constexpr int Contexts = 50;
+inline constexpr int ContextCount = 50;
 /// Of each context in ContextWork: a hundred actions of three cells. The first 42 in a cell that
 /// begins an action ends the list.
 inline constexpr int ContextCells = 300;
