@@ -40,6 +40,9 @@ class WidgetView : public FieldView {
 
   void Refresh() final;
 
+  /// What Enter does in it where the screen has no button for Enter.
+  virtual void Open() {}
+
  protected:
   /// Takes the widget's name from the field.
   WidgetView(const Field& field, QWidget* widget);

@@ -94,6 +94,10 @@ class GridView::Model : public QAbstractTableModel {
     return row < 1 ? QModelIndex() : index(row - 1, column - headers_);
   }
   bool HasHeaders() const { return headers_ == 1; }
+  bool HasCaptions() const {
+    return std::any_of(columns_.begin(), columns_.end(),
+                       [](const auto& column) { return !column.caption.empty(); });
+  }
   const std::vector<GridField::Column>& Columns() const { return columns_; }
   const std::string& Cell(int row, int column) const {
     return cells_.at(static_cast<std::size_t>(row)).at(static_cast<std::size_t>(column));
@@ -165,6 +169,13 @@ class GridView::Table : public QTableView {
   }
 
   Model* Rows() const { return rows_; }
+
+  /// Captions that are all empty take no room.
+  void ShowCaptions() {
+    if (horizontalHeader()->isHidden() != rows_->HasCaptions()) return;
+    horizontalHeader()->setVisible(rows_->HasCaptions());
+    updateGeometry();
+  }
 
   /// Takes up another shape: columns, and the room that they need.
   void TakeShape() {
@@ -290,8 +301,9 @@ class GridView::Table : public QTableView {
     const int bar = verticalScrollBarPolicy() == Qt::ScrollBarAlwaysOff
                         ? 0
                         : style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
-    return {needed_ + bar + 2 * frameWidth(), rows * verticalHeader()->defaultSectionSize() +
-                                                  horizontalHeader()->height() + 2 * frameWidth()};
+    const int captions = rows_->HasCaptions() ? horizontalHeader()->height() : 0;
+    return {needed_ + bar + 2 * frameWidth(),
+            rows * verticalHeader()->defaultSectionSize() + captions + 2 * frameWidth()};
   }
 
   GridView& view_;
@@ -327,6 +339,11 @@ void GridView::SelectShown() {
   });
 }
 
+void GridView::Open() {
+  const QModelIndex cell = table_->currentIndex();
+  if (cell.isValid()) DoubleClick(model_->RowOf(cell), model_->ColumnOf(cell));
+}
+
 void GridView::DoubleClick(int row, int column) {
   RunEvent([this, row, column] { field_.DoubleClick(row, column); });
 }
@@ -334,6 +351,7 @@ void GridView::DoubleClick(int row, int column) {
 void GridView::Push() {
   const QScopedValueRollback<bool> pushing(pushing_, true);
   if (model_->Push()) table_->TakeShape();
+  table_->ShowCaptions();
   PushSelection();
 }
 

@@ -1,6 +1,7 @@
-// The view of a grid: a table with captions on top, and the first column as headers of the rows
-// where the field says so. A click and the arrow keys select a cell, a double click opens it; so
-// does Delete on a cell that holds text, and Insert on one that holds none. Made by MakeView.
+// The view of a grid: a table with captions on top, unless all of them are empty, and the first
+// column as headers of the rows where the field says so. A click and the arrow keys select a cell,
+// a double click opens it; so does Delete on a cell that holds text, Insert on one that holds none,
+// and Enter where the screen has no button for it. Made by MakeView.
 #pragma once
 
 #include <QTableView>
@@ -12,6 +13,8 @@ namespace bkconf {
 class GridView : public WidgetView {
  public:
   GridView(GridField& field, QWidget* parent);
+
+  void Open() override;
 
  protected:
   void Push() override;

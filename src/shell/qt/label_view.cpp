@@ -79,6 +79,8 @@ QSize FittingLabel::sizeHint() const {
 }
 
 QSize FittingLabel::minimumSizeHint() const {
+  const bool keepsLines = minimumHeight() == maximumHeight();
+  if (keepsLines) return {minimumWidth(), minimumHeight()};
   if (wrapped_) return {minimumWidth(), heightForWidth(minimumWidth())};
   return shortened_ ? Width(12, QLabel::minimumSizeHint()) : QLabel::minimumSizeHint();
 }

@@ -17,6 +17,7 @@ enum class Look {
   Path,      ///< a label: takes no more width than there is, and leaves out its middle
   Wrapped,   ///< a label: takes as many lines as it needs
   Sentence,  ///< a label: has room for two lines, whatever it says
+  Tall,      ///< a box to tick: as tall as the lists beside it
 };
 
 enum class PartKind {
@@ -45,9 +46,11 @@ struct Part {
   Look look = Look::Plain;
   int columns = 0;     ///< of tiles
   int share = 0;       ///< of the width of its row, in proportion to the others; 0 is as it needs
-  int characters = 0;  ///< of average width, that a field has room for at least
+  int characters = 0;  ///< of average width, that a field or a frame has room for
   bool tight = false;  ///< a column: its parts belong together; a frame: nothing around it
   bool kept = false;   ///< hidden fields keep their room
+  /// A frame or a field: gets the keyboard when it appears, and gives it back when it goes.
+  bool entered = false;
 };
 
 inline Part Item(std::string_view field, Look look = Look::Plain) {
@@ -110,7 +113,7 @@ inline Part Share(int share, Part part) {
   part.share = share;
   return part;
 }
-/// A field that is at least as wide as so many characters.
+/// A field or a frame that is at least as wide as so many characters.
 inline Part Wide(int characters, Part part) {
   part.characters = characters;
   return part;
@@ -124,6 +127,11 @@ inline Part Tight(std::vector<Part> parts) {
 /// A part whose fields keep their room while they are hidden, so that nothing around it moves.
 inline Part Kept(Part part) {
   part.kept = true;
+  return part;
+}
+/// A frame or a field that gets the keyboard when it appears, and gives it back when it goes.
+inline Part Entered(Part part) {
+  part.entered = true;
   return part;
 }
 inline Part Rule() {

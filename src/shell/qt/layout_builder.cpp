@@ -36,6 +36,11 @@ void KeepRoom(QWidget& widget) {
   widget.setSizePolicy(policy);
 }
 
+void Widen(const Part& part, QWidget& widget) {
+  if (part.characters == 0) return;
+  widget.setMinimumWidth(part.characters * widget.fontMetrics().averageCharWidth());
+}
+
 }  // namespace
 
 QLayout* LayoutBuilder::Build(const Part& part) {
@@ -180,6 +185,8 @@ QWidget* LayoutBuilder::BuildFrame(const Part& part) {
   const int margin = part.tight ? 0 : FrameMargin;
   content->setContentsMargins(margin, margin, margin, margin);
   frame->setLayout(content);
+  Widen(part, *frame);
+  if (part.entered) entered_.push_back(frame);
   return frame;
 }
 
@@ -189,10 +196,9 @@ QWidget* LayoutBuilder::Place(const Part& part) {
   if (!part.label.empty()) Label(part.label, view);
   ApplyLook(part.look, *widget);
   if (keeping_) KeepRoom(*widget);
-  if (part.characters > 0) {
-    widget->setMinimumWidth(part.characters * widget->fontMetrics().averageCharWidth());
-  }
+  Widen(part, *widget);
   placed_.push_back(widget);
+  if (part.entered) entered_.push_back(widget);
   return widget;
 }
 
@@ -200,7 +206,9 @@ void LayoutBuilder::Label(const std::string& label, WidgetView& view) {
   WidgetView& labelView = find_(label);
   view.SetLabel(labelView.Shown());
   auto* widget = dynamic_cast<QLabel*>(labelView.Widget());
-  if (widget != nullptr && TakesInput(view.Shown().kind)) widget->setBuddy(view.Widget());
+  // A label that names several fields goes with the first.
+  if (widget == nullptr || widget->buddy() != nullptr || !TakesInput(view.Shown().kind)) return;
+  widget->setBuddy(view.Widget());
 }
 
 }  // namespace bkconf

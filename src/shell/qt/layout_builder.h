@@ -31,6 +31,9 @@ class LayoutBuilder {
 
   const std::vector<CoverPages>& Covers() const { return covers_; }
 
+  /// What gets the keyboard when it appears. One that lies in another comes before it.
+  const std::vector<QWidget*>& Entered() const { return entered_; }
+
  private:
   QLayout* BuildBox(const Part& part);
   QLayout* BuildForm(const Part& part);
@@ -48,6 +51,7 @@ class LayoutBuilder {
   std::function<WidgetView&(const std::string&)> find_;
   std::vector<QWidget*> placed_;
   std::vector<CoverPages> covers_;
+  std::vector<QWidget*> entered_;
   bool keeping_ = false;  ///< what is placed keeps its room while it is hidden
 };
 

@@ -14,8 +14,8 @@
 namespace bkconf {
 namespace {
 
-/// Of a window that stands by itself.
-constexpr QSize PreferredSize{1000, 660};
+/// Of a window that stands by itself, where the desktop has the room.
+constexpr QSize PreferredSize{1000, 780};
 /// What the frame of a window may take of the desktop.
 constexpr QSize FrameRoom{10, 40};
 
@@ -27,6 +27,10 @@ bool IsEntry(const Screen& screen, const Field* field) {
     const auto& entries = static_cast<const MenuField*>(each)->entries;
     return std::find(entries.begin(), entries.end(), field) != entries.end();
   });
+}
+
+bool LiesIn(const QWidget& part, const QWidget* widget) {
+  return widget != nullptr && (&part == widget || part.isAncestorOf(widget));
 }
 
 /// Whether the keyboard can go there, once the window is shown.
@@ -86,6 +90,7 @@ void ScreenWindow::PlaceViews() {
   centralWidget()->setLayout(content);
   placed_ = builder.Placed();
   covers_ = builder.Covers();
+  for (QWidget* part : builder.Entered()) entrances_.push_back({part});
   QWidget* before = nullptr;
   for (QWidget* widget : placed_) {
     if (widget->focusPolicy() == Qt::NoFocus) continue;
@@ -125,7 +130,7 @@ void ScreenWindow::PushFields() {
   }
   PushEnter();
   PushCovers();
-  KeepFocus(focusBefore);
+  if (!PushEntrances(focusBefore)) KeepFocus(focusBefore);
 }
 
 /// The button that Enter presses looks like it.
@@ -147,6 +152,30 @@ void ScreenWindow::PushCovers() {
   }
 }
 
+/// What appears gets the keyboard; when it goes, the keyboard is back where it was. Gives true when
+/// the keyboard went anywhere.
+bool ScreenWindow::PushEntrances(const QPointer<QWidget>& before) {
+  std::vector<Entrance*> opened;
+  QWidget* next = nullptr;
+  for (Entrance& each : entrances_) {
+    const bool open = each.part->isVisibleTo(this);
+    if (open == each.open) continue;
+    each.open = open;
+    if (open) opened.push_back(&each);
+    const bool lost = !open && LiesIn(*each.part, before);
+    if (lost && each.before != nullptr && TakesFocus(*each.before)) next = each.before;
+  }
+  for (Entrance* each : opened) {
+    // From one part straight to the next: the keyboard goes back to where it was before both.
+    each->before = next == nullptr ? before.data() : next;
+    next = FirstIn(*each->part);
+  }
+  if (next == nullptr) return false;
+  next->setFocus();
+  awaitedFocus_.clear();
+  return true;
+}
+
 /// A transfer disables the button that started it, a manual covers it. When that is over, the
 /// keyboard is back there unless the user has gone elsewhere.
 void ScreenWindow::KeepFocus(const QPointer<QWidget>& before) {
@@ -161,6 +190,14 @@ void ScreenWindow::KeepFocus(const QPointer<QWidget>& before) {
   // From a field that is gone to the next one; what may have come in its place is there by now.
   if (!before->isVisibleTo(this)) FocusNext(before);
   standIn_ = focusWidget();
+}
+
+/// The first field in a part that takes the focus, or null.
+QWidget* ScreenWindow::FirstIn(const QWidget& part) const {
+  const auto first = std::find_if(placed_.begin(), placed_.end(), [&part](const QWidget* each) {
+    return LiesIn(part, each) && TakesFocus(*each);
+  });
+  return first == placed_.end() ? nullptr : *first;
 }
 
 void ScreenWindow::FocusNext(const QWidget* after) {
@@ -263,7 +300,8 @@ void ScreenWindow::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      PressEnter();
+      // A key that is held down would answer the question that it has opened.
+      if (!event->isAutoRepeat()) PressEnter();
       return;
     case Qt::Key_Escape:
       PressEscape();
@@ -283,14 +321,25 @@ const ButtonField* ScreenWindow::EnterInFocus() const {
   return enter_;
 }
 
-/// A button that has the focus is what Enter means; it gets Enter itself only inside a dialog.
+/// A button that has the focus is what Enter means. Without any, what has the focus may open.
 void ScreenWindow::PressEnter() {
   auto* button = dynamic_cast<QPushButton*>(focusWidget());
   const ButtonField* means = EnterInFocus();
   if (button == nullptr && means != nullptr) {
     button = static_cast<QPushButton*>(ViewOf(means->name).Widget());
   }
-  if (button != nullptr && button->isVisible()) button->click();
+  if (button == nullptr) {
+    OpenInFocus();
+  } else if (button->isVisible()) {
+    button->click();
+  }
+}
+
+void ScreenWindow::OpenInFocus() {
+  const auto view = std::find_if(views_.begin(), views_.end(), [this](const auto& each) {
+    return each->Widget() == focusWidget();
+  });
+  if (view != views_.end()) (*view)->Open();
 }
 
 /// Closes what lies over the window, or else the window itself if it was opened from another one.

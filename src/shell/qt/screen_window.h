@@ -38,6 +38,13 @@ class ScreenWindow : public QMainWindow {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  /// A part that gets the keyboard when it appears.
+  struct Entrance {
+    QWidget* part;
+    bool open = false;
+    QPointer<QWidget> before = nullptr;  ///< had the keyboard until then
+  };
+
   void Build();
   void MakeViews();
   void MakeMenus();
@@ -47,7 +54,9 @@ class ScreenWindow : public QMainWindow {
   void PushFields();
   void PushEnter();
   void PushCovers();
+  bool PushEntrances(const QPointer<QWidget>& before);
   void KeepFocus(const QPointer<QWidget>& before);
+  QWidget* FirstIn(const QWidget& part) const;
   void FocusFirst();
   /// To the next field in reading order that takes it; to the first after null.
   void FocusNext(const QWidget* after);
@@ -59,6 +68,7 @@ class ScreenWindow : public QMainWindow {
   void Settle();
   const ButtonField* EnterInFocus() const;
   void PressEnter();
+  void OpenInFocus();
   void PressEscape();
 
   Screen& screen_;
@@ -69,6 +79,7 @@ class ScreenWindow : public QMainWindow {
   std::vector<std::unique_ptr<MenuView>> menus_;
   std::vector<QWidget*> placed_;  ///< in reading order
   std::vector<CoverPages> covers_;
+  std::vector<Entrance> entrances_;
   std::string title_;
   bool minimised_ = false;
   std::string shownLook_;                ///< of the last time that it appeared

@@ -125,12 +125,13 @@ void ApplyStyle(QApplication& application) {
 void ApplyLook(Look look, QWidget& widget) {
   // All that can be pressed is tall enough to be hit without aiming, and a line of text beside it
   // is as tall.
-  const bool pressed = dynamic_cast<QPushButton*>(&widget) != nullptr ||
+  const bool pressed = look == Look::Tall || dynamic_cast<QPushButton*>(&widget) != nullptr ||
                        dynamic_cast<QComboBox*>(&widget) != nullptr ||
                        dynamic_cast<QLineEdit*>(&widget) != nullptr;
   if (pressed) widget.setMinimumHeight(9 * widget.fontMetrics().height() / 4);
   switch (look) {
     case Look::Plain:
+    case Look::Tall:
       return;
     case Look::Primary:
       MakePrimary(widget);

@@ -106,6 +106,22 @@ class GridViewTest : public QObject {
     QCOMPARE(header + Grid()->columnWidth(0) + Grid()->columnWidth(1), room);
   }
 
+  void CaptionsThatAreAllEmptyTakeNoRoom() {
+    const int height = Plain()->sizeHint().height();
+    QVERIFY(Plain()->horizontalHeader()->isVisible());
+    screen_->plain.columns[0].caption = "";
+    window_->Refresh();
+    QVERIFY(Plain()->horizontalHeader()->isVisible());
+    screen_->plain.columns[1].caption = "";
+    window_->Refresh();
+    QVERIFY(!Plain()->horizontalHeader()->isVisible());
+    QVERIFY(Plain()->sizeHint().height() < height);
+    screen_->plain.columns[0].caption = "Number";
+    window_->Refresh();
+    QVERIFY(Plain()->horizontalHeader()->isVisible());
+    QCOMPARE(Plain()->sizeHint().height(), height);
+  }
+
   void NoTextIsCutOffAtTheWidthThatTheGridAsksFor() {
     screen_->Fill(3);
     screen_->grid.columns[2].width = 1;
@@ -214,6 +230,21 @@ class GridViewTest : public QObject {
     FocusByTabulator();
     QTest::keyClick(Grid(), Qt::Key_Insert);
     QCOMPARE(screen_->events, Events({"select 1 1", "open 1 1"}));
+  }
+
+  void EnterOpensTheCellWhereTheScreenHasNoButtonForIt() {
+    screen_->enter = nullptr;
+    window_->Refresh();
+    Click(Grid(), 1, 1);
+    QTest::keyClick(Grid(), Qt::Key_Return);
+    QCOMPARE(screen_->events, Events({"select 2 2", "select 2 2", "open 2 2"}));
+    // A key that is held down opens nothing more.
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, QString(), true);
+    QCoreApplication::sendEvent(Grid(), &held);
+    QCOMPARE(screen_->events.count(QStringLiteral("open 2 2")), 1);
+    window_->findChild<QPushButton*>()->setFocus();
+    QTest::keyClick(window_->focusWidget(), Qt::Key_Return);
+    QCOMPARE(screen_->events.last(), QStringLiteral("button"));
   }
 
   void EnterIsTheButtonOfTheScreenAndTheTabulatorLeavesTheGrid() {
