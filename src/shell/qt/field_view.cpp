@@ -1,6 +1,7 @@
 #include "shell/qt/field_view.h"
 
 #include "shell/qt/button_view.h"
+#include "shell/qt/calendar_view.h"
 #include "shell/qt/check_view.h"
 #include "shell/qt/grid_view.h"
 #include "shell/qt/group_view.h"
@@ -57,6 +58,8 @@ std::unique_ptr<WidgetView> MakeView(Field& field, QWidget* parent) {
       return std::make_unique<OptionView>(static_cast<OptionField&>(field), parent);
     case FieldKind::Grid:
       return std::make_unique<GridView>(static_cast<GridField&>(field), parent);
+    case FieldKind::Calendar:
+      return std::make_unique<CalendarView>(static_cast<CalendarField&>(field), parent);
     case FieldKind::Button:
       return std::make_unique<ButtonView>(static_cast<ButtonField&>(field), parent);
     case FieldKind::Progress:
