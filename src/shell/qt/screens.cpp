@@ -3,6 +3,9 @@
 #include <array>
 #include <map>
 
+#include "master/context_screen.h"
+#include "master/light_program_screen.h"
+#include "master/time_program_screen.h"
 #include "output/button_screen.h"
 #include "output/output_screen.h"
 #include "shell/directory_picker.h"
@@ -10,12 +13,15 @@
 #include "shell/main_window.h"
 #include "shell/open_dialog.h"
 #include "shell/qt/layouts/button_screen.h"
+#include "shell/qt/layouts/context_screen.h"
 #include "shell/qt/layouts/directory_picker.h"
 #include "shell/qt/layouts/directory_screen.h"
+#include "shell/qt/layouts/light_program_screen.h"
 #include "shell/qt/layouts/main_window.h"
 #include "shell/qt/layouts/open_dialog.h"
 #include "shell/qt/layouts/output_screen.h"
 #include "shell/qt/layouts/save_dialog.h"
+#include "shell/qt/layouts/time_program_screen.h"
 #include "shell/save_dialog.h"
 
 namespace bkconf {
@@ -29,6 +35,9 @@ constexpr auto Rows = std::to_array<ScreenRow>({
     {&DirectoryPicker, DirectoryPickerLayout, &DirectoryScreen},
     {&ButtonScreen, ButtonScreenLayout, &MainWindow},
     {&OutputScreen, OutputScreenLayout, &MainWindow},
+    {&ContextScreen, ContextScreenLayout, &MainWindow},
+    {&TimeProgramScreen, TimeProgramScreenLayout, &MainWindow},
+    {&LightProgramScreen, LightProgramScreenLayout, &MainWindow},
 });
 
 }  // namespace

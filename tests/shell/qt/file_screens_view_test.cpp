@@ -10,6 +10,9 @@
 #include <QTest>
 
 #include "layout_names.h"
+#include "master/context_screen.h"
+#include "master/light_program_screen.h"
+#include "master/time_program_screen.h"
 #include "output/button_screen.h"
 #include "output/output_screen.h"
 #include "session/settings.h"
@@ -254,6 +257,10 @@ class FileScreensViewTest : public QObject {
       if (screen == &DirectoryPicker) ShowDirectoryPicker();
       if (screen == &ButtonScreen) OpenButtonScreen();
       if (screen == &OutputScreen) OpenOutputScreen();
+      MasterContextsLoaded = MasterTimeLoaded = MasterLightLoaded = 1;
+      if (screen == &ContextScreen) OpenContextScreen();
+      if (screen == &TimeProgramScreen) OpenTimeProgramScreen();
+      if (screen == &LightProgramScreen) OpenLightProgramScreen();
     });
     QVERIFY(QTest::qWaitForWindowExposed(Window(row)));
     QCoreApplication::processEvents();
