@@ -22,8 +22,10 @@ inline Part DataGroupPart(DataGroup group, const std::string& prefix,
   std::vector<Part> lines = {
       Line(prefix + "AddressLabel", prefix + "Address", {Item(prefix + "Version")})};
   for (Part& line : further) lines.push_back(std::move(line));
+  // That of the general data has the most buttons, and shorter captions than the others.
+  const int columns = group == DataGroup::General ? 3 : 2;
   return Frame(prefix + "Group",
-               Column({Form(std::move(lines)), Tiles(2, ActionButtonsOf(group)), Space()}));
+               Column({Form(std::move(lines)), Tiles(columns, ActionButtonsOf(group)), Space()}));
 }
 
 /// The configuration page of a master: the list of modules with its scan, beside it the clock, and
@@ -44,17 +46,18 @@ inline Part ModulePagePart() {
       Frame("deleteGroup",
             Column({Item("deleteQuestion"), Row({Space(), Item("deleteYes"), Item("deleteNo")})}));
   return Frame("modulePage", Row({Share(3, list), Share(4, Column({clock, Space()})),
-                                  Share(3, Pile({Kept(add), remove}))}));
+                                  Share(3, Pile({Kept(Entered(add)), Entered(remove)}))}));
 }
 
 inline Part MainWindowLayout() {
   const Part selection =
-      Column({Row({Item("moduleListLabel"), Share(1, Labelled("moduleListLabel", "moduleList"))}),
+      Column({Row({Item("moduleListLabel"), Share(1, Labelled("moduleListLabel", "moduleList")),
+                   Item("upgrade")}),
               Frame("pictureGroup",
                     Column({Labelled("moduleCaption", "picture"),
                             Item("moduleCaption", Look::Heading), Item("moreInfo"),
                             Item("infoInductive"), Item("infoCapacitive"), Item("infoAnalogue")})),
-              Space(), Row({Item("upgrade"), Space()})});
+              Space()});
   const Part module = Column(
       {Frame("actionGroup",
              Row({Item("connect", Look::Primary), Item("send", Look::Primary), Space()})),
