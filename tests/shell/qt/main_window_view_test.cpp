@@ -1,8 +1,10 @@
 #include <QAccessible>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QTableView>
 #include <QTest>
 
 #include "image/module_directory.h"
@@ -187,6 +189,27 @@ class MainWindowViewTest : public QObject {
     const int temperature = gap("roomIds");
     QVERIFY(display < 30);
     QVERIFY(temperature > 2 * display);
+  }
+
+  void TheListOfModulesShowsHalfOfItsRowsOnASmallDesktop() {
+    window_->resize(1000, 728);
+    ShowRow(PageRow);
+    const auto* list = Find<QTableView>("modules");
+    const int row = list->verticalHeader()->defaultSectionSize();
+    QVERIFY(list->viewport()->height() >= list->model()->rowCount() / 2 * row);
+  }
+
+  void ThePanelToAddAModuleIsOpenedAndLeftByKeyboard() {
+    ShowRow(PageRow);
+    QTableView* list = Find<QTableView>("modules");
+    list->setFocus();
+    list->setCurrentIndex(list->model()->index(4, 1));
+    QTest::keyClick(list, Qt::Key_Return);
+    QVERIFY(Find<QGroupBox>("addGroup")->isVisible());
+    QCOMPARE(window_->focusWidget(), Find<QComboBox>("addLetter"));
+    QTest::keyClick(window_->focusWidget(), Qt::Key_Escape);
+    QVERIFY(!Find<QGroupBox>("addGroup")->isVisible());
+    QCOMPARE(window_->focusWidget(), list);
   }
 
   void TheMastersVersionStandsWhereOtherwiseTheAddressDoes() {
