@@ -311,5 +311,24 @@ TEST_F(ModuleListTest, AFullListCanBeEmptied) {
   ExpectRows({});
 }
 
+TEST_F(ModuleListTest, ConfirmAndYesDoNothingWhileTheirPanelIsClosed) {
+  Open(House);
+  OpenAdd(11);
+  Choose("K", 9);
+  page.addLeave.Click();
+  const Snapshot before = TakeSnapshot();
+  page.addConfirm.Click();
+  page.deleteYes.Click();
+  page.modules.DoubleClick(1, 1);
+  ExpectShown(true, false, true);
+  page.addConfirm.Click();
+  ExpectShown(true, false, true);
+  page.deleteNo.Click();
+  page.deleteYes.Click();
+  ExpectOnlyChanged(before, {});
+  ExpectCells(House);
+  EXPECT_FALSE(MainWindow.send.enabled);
+}
+
 }  // namespace
 }  // namespace bkconf

@@ -218,5 +218,58 @@ TEST_F(ModuleScanTest, ACorrectionGoesToTheMaster) {
   EXPECT_EQ(master.memory().Cells("ButtonImage")[121], 0);
 }
 
+// --- A scan that is left ------------------------------------------------------------------------
+
+TEST_F(ModuleScanTest, AScanThatIsLeftHalfwayShowsWhatHasCome) {
+  OpenOther();
+  page.scan.Click();
+  ASSERT_TRUE(clock.RunUntil([] { return DirectoryLetter(2) == Cell('C'); }, 60'000));
+  ExpectRows({});
+  LeaveTransfer();
+  // The letters come before the types.
+  ExpectRows({"1 A ", "2 B ", "3 C "});
+  ExpectUsable(true);
+  page.modules.DoubleClick(1, 1);
+  ExpectShown(true, false, true);
+}
+
+TEST_F(ModuleScanTest, AScanThatEndsInARunTimeErrorShowsWhatHasCome) {
+  OpenOther();
+  Plug({9, virtual_module::LoadImage(std::filesystem::path(BKCONF_DEMO_HOUSE) / "Master.BK1"),
+        virtual_module::Fault::IndexBeyondTable});
+  page.scan.Click();
+  bool failed = false;
+  try {
+    clock.Advance(60'000);
+  } catch (const RuntimeError&) {
+    failed = true;
+    ExpectRows({});
+    LeaveFailedTransfer();
+  }
+  ASSERT_TRUE(failed);
+  EXPECT_EQ(Row(1).substr(0, 3), "1 A");
+  ExpectUsable(true);
+}
+
+TEST_F(ModuleScanTest, AScanThatTheModuleRefusesLeavesAnEmptyList) {
+  OpenOther();
+  Plug(1);
+  page.scan.Click();
+  FinishTransfer();
+  EXPECT_EQ(messages.told.size(), 1U);
+  ExpectRows({});
+  ExpectUsable(true);
+  ExpectShown(true, false, false);
+}
+
+TEST_F(ModuleScanTest, WhatIsLeftDrawsNoListOnAPageThatIsHidden) {
+  OpenOther();
+  page.scan.Click();
+  ASSERT_TRUE(clock.RunUntil([] { return DirectoryLetter(2) == Cell('C'); }, 60'000));
+  page.page.visible = false;
+  LeaveTransfer();
+  ExpectRows({});
+}
+
 }  // namespace
 }  // namespace bkconf

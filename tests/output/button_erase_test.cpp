@@ -268,6 +268,21 @@ TEST_F(MasterBaseFunctionsTest, EscapeMeansNoWhileTheQuestionIsOpen) {
   EXPECT_EQ(ButtonScreen.escape, nullptr);
 }
 
+TEST_F(MasterBaseFunctionsTest, EnterMeansYesWhileTheQuestionIsOpenAndStoresOtherwise) {
+  Open(0);
+  EXPECT_EQ(ButtonScreen.enter, &ButtonScreen.store);
+  for (const ButtonField* answer : {&ButtonScreen.baseYes, &ButtonScreen.baseNo}) {
+    ButtonScreen.base.Click();
+    EXPECT_EQ(ButtonScreen.enter, &ButtonScreen.baseYes);
+    answer->Click();
+    EXPECT_EQ(ButtonScreen.enter, &ButtonScreen.store);
+  }
+  ButtonScreen.base.Click();
+  ButtonScreen.leave.Click();
+  OpenAgain();
+  EXPECT_EQ(ButtonScreen.enter, &ButtonScreen.store);
+}
+
 TEST_F(MasterBaseFunctionsTest, TheDescriptionFollowsTheSelectedFunction) {
   Open(0, 1, 'M');
   ButtonScreen.buttons.Select(3, 1);

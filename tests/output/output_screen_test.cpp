@@ -262,6 +262,24 @@ TEST_P(OutputFunctionsTest, IncompleteFieldsStoreNothing) {
   }
 }
 
+TEST_P(OutputFunctionsTest, ConfirmWritesNothingWhileTheScreenOrItsAreaIsNotShown) {
+  Open();
+  Choose(1, 0);
+  OutputScreen.leave.Click();
+  ExpectRefused();
+  OutputScreen.shown = true;
+  OutputScreen.editGroup.visible = false;
+  ExpectRefused();
+  // The start values are another area, of other kinds.
+  OutputScreen.editGroup.visible = true;
+  OutputScreen.channel.Pick(0);
+  OutputScreen.start.Pick(0);
+  const Snapshot before = TakeSnapshot();
+  OutputScreen.confirmStart.Click();
+  ExpectOnlyChanged(before, {});
+  EXPECT_FALSE(MainWindow.send.enabled);
+}
+
 TEST_P(OutputFunctionsTest, LeavingClosesTheScreen) {
   Open();
   const Snapshot before = TakeSnapshot();

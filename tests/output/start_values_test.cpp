@@ -122,6 +122,24 @@ TEST_P(StartValuesTest, IncompleteFieldsStoreNothing) {
   expectRefused();
 }
 
+TEST_P(StartValuesTest, ConfirmWritesNothingWhileTheScreenOrItsAreaIsNotShown) {
+  Open();
+  OutputScreen.channel.Pick(0);
+  OutputScreen.start.Pick(0);
+  OutputScreen.output.Pick(0);
+  OutputScreen.function.Pick(0);
+  const Snapshot before = TakeSnapshot();
+  // The functions of outputs are another area, of other kinds.
+  OutputScreen.confirm.Click();
+  OutputScreen.leave.Click();
+  OutputScreen.confirmStart.Click();
+  OutputScreen.shown = true;
+  OutputScreen.startEditGroup.visible = false;
+  OutputScreen.confirmStart.Click();
+  ExpectOnlyChanged(before, {});
+  EXPECT_FALSE(MainWindow.send.enabled);
+}
+
 TEST_P(StartValuesTest, AfterAConfirmTheFrenchCaptionIsAnotherOneUntilTheNextOpening) {
   Open(2);
   OutputScreen.channel.Pick(0);
