@@ -9,15 +9,13 @@
 #include <vector>
 
 #include "end_to_end/deadline.h"
+#include "end_to_end/file_stage.h"
 #include "end_to_end/image_lines.h"
-#include "end_to_end/stage.h"
 
 namespace end_to_end {
 namespace {
 
 namespace fs = std::filesystem;
-
-const std::string programName = "TREVAN BK-CONF";
 
 struct FileCase {
   const Captions* captions;
@@ -59,15 +57,11 @@ const std::vector<FileCase> fileCases = {
      false},
 };
 
-std::string TitleOf(const fs::path& file) {
-  return programName + "  -  " + file.string();
-}
-
 void Write(const fs::path& file, const std::string& content) {
   std::ofstream(file, std::ios::binary) << content;
 }
 
-class FilesOfModules : public Stage, public ::testing::WithParamInterface<FileCase> {
+class FilesOfModules : public FileStage, public ::testing::WithParamInterface<FileCase> {
  protected:
   void SetUp() override { LayOutDirectory(*GetParam().captions); }
 
@@ -79,51 +73,6 @@ class FilesOfModules : public Stage, public ::testing::WithParamInterface<FileCa
   }
 
   bool IsSaveEnabled() { return IsEntryEnabled(captions().fileMenu, captions().saveEntry); }
-
-  void OpenSaveScreen() {
-    ClickOnEntry(captions().fileMenu, captions().saveAsEntry);
-    AwaitWindow(captions().saveTitle);
-    AwaitText(directory().string());
-  }
-  void AwaitName(const std::string& name) {
-    std::string content;
-    const bool stands = WaitFor([&] {
-      content = Await("text", captions().fileName).content;
-      return content == name;
-    });
-    EXPECT_TRUE(stands) << "in the field of the name there is \"" << content << "\"";
-  }
-  void TypeName(const std::string& name) {
-    ClickOn("text", captions().fileName);
-    desktop().Type(name);
-    AwaitName(name);
-  }
-  void PressSave() {
-    ClickOn("push button", captions().saveButton);
-    AwaitGone("frame", captions().saveTitle);
-  }
-
-  void OpenOpenScreen() {
-    ClickOnEntry(captions().fileMenu, captions().openEntry);
-    AwaitWindow(captions().openTitle);
-    AwaitText(directory().string());
-  }
-  // A click shows the whole path; the button or a double click takes it.
-  void Choose(const std::string& name) {
-    ClickOn("list item", name);
-    AwaitText((directory() / name).string());
-    if (GetParam().byDoubleClick) {
-      DoubleClickOn("list item", name);
-    } else {
-      ClickOn("push button", captions().openButton);
-    }
-  }
-  void OpenFile(const std::string& name) {
-    OpenOpenScreen();
-    Choose(name);
-    AwaitGone("frame", captions().openTitle);
-    AwaitWindow(TitleOf(directory() / name));
-  }
 
   void ExpectNoModule() {
     AwaitWindow(programName);
@@ -241,7 +190,7 @@ TEST_P(FilesOfModules, FileIsOpenedAfterNewAndSentToTheModule) {
   ConnectAndRead();
   ClickOnEntry(captions().fileMenu, captions().newEntry);
   ExpectNoModule();
-  OpenFile(GetParam().demoFile);
+  OpenFile(GetParam().demoFile, GetParam().byDoubleClick);
   ExpectOpenedFile();
   ClickOn("push button", captions().send);
   AwaitText("Ready");
@@ -258,12 +207,12 @@ TEST_P(FilesOfModules, FileThatIsTooShortIsToldWithItsPathAndChangesNothing) {
   lines.resize(20);
   Write(tooShort, Text(lines));
   StartTool();
-  OpenFile(GetParam().demoFile);
+  OpenFile(GetParam().demoFile, GetParam().byDoubleClick);
   ExpectOpenedFile();
   const std::vector<std::string> before = Shown();
 
   OpenOpenScreen();
-  Choose(tooShort.filename().string());
+  ChooseFile(tooShort.filename().string(), GetParam().byDoubleClick);
   AwaitText(captions().fileTooShort);
   AwaitText(captions().place + tooShort.string() + ", " + captions().line + "21");
   ClickOn("push button", "OK");
@@ -275,7 +224,7 @@ TEST_P(FilesOfModules, FileThatIsTooShortIsToldWithItsPathAndChangesNothing) {
 
   ClickOnEntry(captions().fileMenu, captions().newEntry);
   ExpectNoModule();
-  OpenFile(GetParam().demoFile);
+  OpenFile(GetParam().demoFile, GetParam().byDoubleClick);
   AwaitShown(before);
   CloseTool();
 }
