@@ -46,6 +46,7 @@ struct Captions {
   const char* secondColumn;
   const char* firstFunction;
   const char* store;
+  const char* clearFirst;
   const char* clearSecond;
   const char* baseFunctions;
   const char* baseQuestion;
@@ -87,6 +88,7 @@ inline constexpr Captions dutch = {.language = 1,
                                    .secondColumn = "2de functie",
                                    .firstFunction = "1ste functie:",
                                    .store = "<--Invoegen",
+                                   .clearFirst = "Wissen van alle 1ste functies!",
                                    .clearSecond = "Wissen van alle 2de functies!",
                                    .baseFunctions = "Basisfuncties",
                                    .baseQuestion = "Basisfuncties aan drukknoppen toekennen?",
@@ -125,6 +127,7 @@ inline constexpr Captions french = {.language = 2,
                                     .secondColumn = "2° fonction",
                                     .firstFunction = "1ère fonction:",
                                     .store = "<--Insérer",
+                                    .clearFirst = "Effacer tous les 1ère fonctions!",
                                     .clearSecond = "Effacer tous les 2ème fonctions!",
                                     .baseFunctions = "Fonctions de base",
                                     .baseQuestion = "Fonctions de base aux boutons poussoirs?",

@@ -20,11 +20,6 @@ class Outputs : public Stage {
     ClickOn("push button", action);
     AwaitWindow(title);
   }
-  void LeaveByButton(const std::string& title) {
-    ClickOn("push button", captions().leave);
-    AwaitGone("frame", title);
-    AwaitWindow("TREVAN BK-CONF");
-  }
 };
 
 TEST_F(Outputs, FunctionOfAnOutputOfARelayModuleIsChangedAndSent) {

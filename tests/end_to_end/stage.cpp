@@ -190,6 +190,12 @@ void Stage::LeaveScreen(std::string_view title) {
   EXPECT_TRUE(left) << "the screen \"" << title << "\" stays";
 }
 
+void Stage::LeaveByButton(std::string_view title, std::string_view mainTitle) {
+  ClickOn("push button", captions().leave);
+  AwaitGone("frame", title);
+  AwaitWindow(mainTitle);
+}
+
 void Stage::PickInList(const ListPlace& place, const std::vector<std::string>& keys,
                        std::string_view item) {
   const auto shown = [&] {
@@ -240,6 +246,22 @@ Widget Stage::AwaitCell(std::string_view row, std::string_view column, std::stri
   return *cell;
 }
 
+Widget Stage::AwaitPlace(std::size_t row, std::size_t column, std::string_view text) {
+  std::optional<Widget> cell;
+  const bool stands = WaitFor([&] {
+    const std::optional<Widget> before = cell;
+    const Grid grid = GridOf(desktop().Widgets());
+    cell.reset();
+    if (row < grid.rows.size() && column < grid.rows[row].size()) cell = grid.rows[row][column];
+    return before && cell && cell->x == before->x && cell->y == before->y && cell->name == text;
+  });
+  const std::string place = std::to_string(row) + ", " + std::to_string(column);
+  if (!cell) throw std::runtime_error("there is no cell " + place);
+  EXPECT_TRUE(stands) << "the cell " << place << " shows \"" << cell->name << "\" in place of \""
+                      << text << "\"";
+  return *cell;
+}
+
 void Stage::AwaitRows(const std::vector<std::string>& rows) {
   std::vector<std::string> shown;
   WaitFor([&] {
@@ -261,6 +283,26 @@ void Stage::TabTo(const std::function<bool(const Widget&)>& isWidget) {
     WaitFor([&] { return FocusOf(desktop().Widgets()) != before; }, std::chrono::seconds(3));
   }
   ADD_FAILURE() << "the keyboard does not get there; it is in " << FocusOf(desktop().Widgets());
+}
+
+void Stage::PressOn(std::string_view role, std::string_view name) {
+  TabTo(role, name);
+  desktop().Press({"space"});
+}
+
+void Stage::TabToList(const ListPlace& place) {
+  TabTo([&](const Widget& each) {
+    const auto list = desktop().FindList(place);
+    return list && each.role == list->role && each.x == list->x && each.y == list->y;
+  });
+}
+
+void Stage::StepInList(const ListPlace& place, int index, std::string_view item) {
+  TabToList(place);
+  std::vector<std::string> keys = {"Home"};
+  keys.insert(keys.end(), static_cast<std::size_t>(index), "Down");
+  desktop().Press(keys);
+  AwaitListText(place, item);
 }
 
 bool Stage::IsEnabled(std::string_view role, std::string_view name) {

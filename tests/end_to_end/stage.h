@@ -71,6 +71,8 @@ class Stage : public ::testing::Test {
   bool IsEntryEnabled(std::string_view menu, std::string_view entry);
   // Closes an opened screen by Escape, which is lost while the window manager moves the focus.
   void LeaveScreen(std::string_view title);
+  // Closes an editor by the button that all of them have, and waits for the main window.
+  void LeaveByButton(std::string_view title, std::string_view mainTitle = "TREVAN BK-CONF");
   // Opens the list behind that label and presses keys in it until it shows `item`.
   void PickInList(const ListPlace& place, const std::vector<std::string>& keys,
                   std::string_view item);
@@ -86,6 +88,8 @@ class Stage : public ::testing::Test {
   // The cell of the table in the row that begins with `row`, below the caption `column`, once it
   // stands still with that text.
   Widget AwaitCell(std::string_view row, std::string_view column, std::string_view text);
+  // The same in a table without captions, by the place among what is in sight of it.
+  Widget AwaitPlace(std::size_t row, std::size_t column, std::string_view text);
   // Waits until the rows of the table that are in sight begin with these, the texts of a row behind
   // each other with bars between them.
   void AwaitRows(const std::vector<std::string>& rows);
@@ -95,6 +99,12 @@ class Stage : public ::testing::Test {
   void TabTo(std::string_view role, std::string_view name) {
     TabTo([=](const Widget& each) { return each.role == role && each.name == name; });
   }
+  // Presses a button, or takes a choice, with the keyboard alone.
+  void PressOn(std::string_view role, std::string_view name);
+  void PressButton(std::string_view name) { PressOn("push button", name); }
+  // Tab to a list, and there to an item while the list stays closed.
+  void TabToList(const ListPlace& place);
+  void StepInList(const ListPlace& place, int index, std::string_view item);
   // Waits for a text in a label of a window.
   void AwaitText(std::string_view text) { Await("label", text); }
   bool IsEnabled(std::string_view role, std::string_view name);
