@@ -1,6 +1,7 @@
 #include "end_to_end/grid.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 
 namespace end_to_end {
@@ -8,6 +9,11 @@ namespace {
 
 bool IsLeftOf(const Widget& one, const Widget& other) {
   return one.x < other.x;
+}
+
+bool Overlap(const Widget& one, const Widget& other) {
+  return one.x < other.x + other.width && other.x < one.x + one.width &&
+         one.y < other.y + other.height && other.y < one.y + one.height;
 }
 
 }  // namespace
@@ -36,14 +42,22 @@ std::vector<std::string> Grid::Texts() const {
   return texts;
 }
 
-Grid GridOf(const std::vector<Widget>& widgets) {
+Grid GridOf(const std::vector<Widget>& widgets, int number) {
   Grid grid;
+  std::vector<Widget> tables;
+  std::copy_if(widgets.begin(), widgets.end(), std::back_inserter(tables),
+               [](const Widget& each) { return each.role == "table"; });
+  if (tables.size() < static_cast<std::size_t>(number)) return grid;
+  const Widget& table = tables[static_cast<std::size_t>(number) - 1];
+  std::vector<Widget> parts;
+  std::copy_if(widgets.begin(), widgets.end(), std::back_inserter(parts),
+               [&table](const Widget& each) { return Overlap(each, table); });
   std::map<int, std::vector<Widget>> rows;  // by the place of their upper edge
-  for (const Widget& widget : widgets) {
+  for (const Widget& widget : parts) {
     if (widget.role == "cell") rows[widget.y].push_back(widget);
     if (widget.role == "column header") grid.captions.push_back(widget);
   }
-  for (const Widget& widget : widgets) {
+  for (const Widget& widget : parts) {
     const auto row = rows.find(widget.y);
     if (widget.role == "row header" && row != rows.end()) row->second.push_back(widget);
   }

@@ -21,7 +21,8 @@ struct Grid {
   std::vector<std::string> Texts() const;
 };
 
-// There is one table at most.
-Grid GridOf(const std::vector<Widget>& widgets);
+// The table of that number, from 1 on. What lies in no frame comes first, so the first is the
+// screen's list also where a calendar, which is a table too, is beside it.
+Grid GridOf(const std::vector<Widget>& widgets, int number = 1);
 
 }  // namespace end_to_end
