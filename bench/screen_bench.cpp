@@ -203,6 +203,25 @@ void FillContexts() {
   }
 }
 
+/// The question where the context has actions, else the editor.
+void OpenFirstAction(int context) {
+  ContextScreen.Close();
+  FillContexts();
+  OpenContextScreen();
+  ContextScreen.chooser.Pick(context);
+  ContextScreen.actions.DoubleClick(1, 0);
+}
+
+/// In a context that is empty yet.
+void ComposeAction(int run) {
+  OpenFirstAction(2);
+  ActionPicker& picker = ContextScreen.picker;
+  picker.letter.Pick(0);
+  picker.type.Pick(0);
+  picker.output.list.Pick(run % 12);
+  picker.action.list.Pick(run % 3);
+}
+
 void MeasureContexts() {
   watch.grid = QStringLiteral("actions");
   ActiveModuleType = 9;
@@ -213,6 +232,10 @@ void MeasureContexts() {
   Measure(
       "contexts, filling the grid", [&context](int run) { context = run % 2; },
       [&context] { ContextScreen.chooser.Pick(context); });
+  Measure(
+      "contexts, delete", [](int) { OpenFirstAction(0); },
+      [] { ContextScreen.deleteConfirm.Click(); });
+  Measure("contexts, store and redraw", ComposeAction, [] { ContextScreen.editConfirm.Click(); });
   RunEvent([] { ContextScreen.Close(); });
 }
 

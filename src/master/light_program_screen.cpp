@@ -94,7 +94,8 @@ void LightProgramScreenFields::StoreMoment(int cell) {
 }
 
 void LightProgramScreenFields::DrawMoment(int row, int cell, Drawing drawing) {
-  const int direction = LightProgramTable[cell + Direction].WholeNumber().value_or(-1);
+  const Cell& held = LightProgramTable[cell + Direction];
+  const int direction = held.IsEmpty() ? 0 : held.WholeNumber().value_or(-1);
   // A direction that is none leaves what stands there.
   if (direction == 0 || direction == 1) {
     const auto& names = drawing == Drawing::AfterRead ? ArrowsAfterRead : Arrows;

@@ -51,7 +51,7 @@ std::string DateOf(int cell, Drawing drawing) {
   std::string date;
   for (const int part : {DateDay, DateMonth, DateYear}) {
     const Cell& value = TimeProgramTable[cell + part];
-    if (!date.empty()) date += "-";
+    if (part != DateDay) date += "-";
     date += drawing == Drawing::AfterChange ? value.Text() : TwoDigitsOf(value);
   }
   return date;

@@ -89,14 +89,19 @@ void ContextScreenTest::ExpectPanels(bool asksToDelete, bool edits) {
   EXPECT_EQ(ContextScreen.editGroup.visible, edits) << "edit frame";
 }
 
-void ContextScreenTest::ExpectNoChange(const ButtonField& button) {
+void ContextScreenTest::ExpectNoChange(const ButtonField& button) const {
   const bool edits = ContextScreen.editGroup.visible;
+  const bool asks = ContextScreen.deleteGroup.visible;
   const Codes shown = Shown();
+  const std::string memory = ContextScreen.memory.caption;
   const Snapshot before = TakeSnapshot();
   button.Click();
   ExpectOnlyChanged(before, {});
   EXPECT_EQ(Shown(), shown);
   EXPECT_EQ(ContextScreen.editGroup.visible, edits);
+  EXPECT_EQ(ContextScreen.deleteGroup.visible, asks);
+  EXPECT_EQ(ContextScreen.memory.caption, memory);
+  EXPECT_TRUE(messages.told.empty());
   EXPECT_FALSE(MainWindow.send.enabled);
 }
 

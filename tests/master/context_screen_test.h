@@ -37,7 +37,7 @@ class ContextScreenTest : public SessionTest {
   static void ExpectMemory(const std::string& free);
   static void ExpectPanels(bool asksToDelete, bool edits);
   /// The button changes no cell, and there is nothing to send.
-  static void ExpectNoChange(const ButtonField& button);
+  void ExpectNoChange(const ButtonField& button) const;
 
   /// Fills the editor with the switching of an output of the relay module 'A'.
   static void Choose(int output, const std::string& action = "Aan");

@@ -68,11 +68,16 @@ TEST_F(LightListTest, DirectionsAreShownWithArrowsAndLevelsWithTwoDigits) {
 }
 
 TEST_F(LightListTest, ADirectionThatIsNoneHasNoTextAndKeepsItsRow) {
-  for (const Cell& direction : std::vector<Cell>{2, 42, 255, -1, 0.5, "word", "*", Cell()}) {
+  for (const Cell& direction : std::vector<Cell>{2, 42, 255, -1, 0.5, "word", "*"}) {
     Open({{direction, 7, 65, 0, 1}});
     EXPECT_EQ(Row(1), "A0101, , 07") << direction.Text();
     ExpectMemory(199);
   }
+}
+
+TEST_F(LightListTest, AnEmptyDirectionCountsAsNought) {
+  Open({{Cell(), 7, 65, 0, 1}});
+  ExpectRows({"A0101, Licht -> Donker, 07"});
 }
 
 TEST_F(LightListTest, ADirectionThatIsNoneLeavesTheTextOfTheRowBefore) {

@@ -92,6 +92,13 @@ TEST_F(TimeProgramTest, ADateHasTwoDigitsOnOpeningAndStandsAsItIsStoredAfterACha
   EXPECT_EQ(Row(2), "A0201, 07:05, 05-03-09");
 }
 
+TEST_F(TimeProgramTest, ADateWithEmptyCellsKeepsItsDashesAfterAChange) {
+  Open({{7, 5, 8, Cell(), 3, Cell(), 65, 0, 1}, On('C')});
+  EXPECT_EQ(Row(1), "A0101, 07:05, 00-03-00");
+  Delete(2);
+  EXPECT_EQ(Row(1), "A0101, 07:05, -3-");
+}
+
 TEST_F(TimeProgramTest, ADayThatIsNoneHasNoTextAndKeepsItsRow) {
   for (const Cell& day : std::vector<Cell>{0, 10, 42, 255, -1, 1.5, "word", "*", Cell()}) {
     Open({{7, 5, day, 0, 0, 0, 65, 0, 1}});
