@@ -50,12 +50,26 @@ QVariant Answer(QDBusPendingCall& call) {
   return answer.arguments().first();
 }
 
+QDBusPendingCall AskStates(const QDBusConnection& bus, const Place& place) {
+  return Ask(bus, place, accessibleInterface, QStringLiteral("GetState"));
+}
+
+// The first of them, one bit each; none of a widget that is gone.
+quint32 StatesOf(QDBusPendingCall& call) {
+  const auto states = qdbus_cast<QList<quint32>>(Answer(call));
+  return states.isEmpty() ? 0 : states.first();
+}
+
+bool Holds(quint32 states, unsigned state) {
+  return (states >> state & 1U) != 0;
+}
+
 // All that is asked of one widget. A tool that waits for its module answers between two rounds of
 // waiting only, so the questions go out together, and those about all widgets of a level as well.
 class Questions {
  public:
   Questions(const QDBusConnection& bus, const Place& place)
-      : states_(Ask(bus, place, accessibleInterface, QStringLiteral("GetState"))),
+      : states_(AskStates(bus, place)),
         role_(Ask(bus, place, accessibleInterface, QStringLiteral("GetRoleName"))),
         name_(AskProperty(bus, place, "Name")),
         description_(AskProperty(bus, place, "Description")),
@@ -65,8 +79,8 @@ class Questions {
 
   // The widget if it is on the display.
   std::optional<Widget> Answers() {
-    const auto states = qdbus_cast<QList<quint32>>(Answer(states_));
-    if (states.isEmpty() || !Holds(states.first(), showingState)) return std::nullopt;
+    const auto states = StatesOf(states_);
+    if (!Holds(states, showingState)) return std::nullopt;
     QRect area;
     if (const QVariant answer = Answer(area_); answer.isValid()) {
       answer.value<QDBusArgument>() >> area;
@@ -78,9 +92,9 @@ class Questions {
                   .y = area.y(),
                   .width = area.width(),
                   .height = area.height(),
-                  .enabled = Holds(states.first(), enabledState),
-                  .focused = Holds(states.first(), focusedState),
-                  .checked = Holds(states.first(), checkedState)};
+                  .enabled = Holds(states, enabledState),
+                  .focused = Holds(states, focusedState),
+                  .checked = Holds(states, checkedState)};
   }
 
   std::vector<Place> Children() {
@@ -109,8 +123,6 @@ class Questions {
                {accessibleInterface, QString::fromLatin1(name)});
   }
 
-  static bool Holds(quint32 states, unsigned state) { return (states >> state & 1U) != 0; }
-
   static std::string TextOf(const QVariant& answer) {
     return answer.value<QDBusVariant>().variant().toString().toStdString();
   }
@@ -130,10 +142,11 @@ std::string ContentOf(const QDBusConnection& bus, const Place& field) {
   return Answer(call).toString().toStdString();
 }
 
-// A place and the caption of what is around it.
+// A place and what is around it.
 struct Node {
   Place place;
-  std::string group;
+  std::string group;  // its caption
+  bool inTable = false;
 };
 
 std::vector<Questions> AskAll(const QDBusConnection& bus, const std::vector<Node>& nodes) {
@@ -142,13 +155,30 @@ std::vector<Questions> AskAll(const QDBusConnection& bus, const std::vector<Node
   return questions;
 }
 
-void AddChildren(Questions& parent, const std::string& group, std::vector<Node>& children) {
-  for (const Place& child : parent.Children()) children.push_back({child, group});
+// Without the cells of tables that are not on the display. There are hundreds of them, so they are
+// asked for nothing else.
+std::vector<Node> InSight(const QDBusConnection& bus, const std::vector<Node>& nodes) {
+  std::vector<QDBusPendingCall> calls;
+  for (const Node& node : nodes) {
+    if (node.inTable) calls.push_back(AskStates(bus, node.place));
+  }
+  auto call = calls.begin();
+  std::vector<Node> found;
+  for (const Node& node : nodes) {
+    if (!node.inTable || Holds(StatesOf(*call++), showingState)) found.push_back(node);
+  }
+  return found;
+}
+
+void AddChildren(Questions& parent, const Node& around, std::vector<Node>& children) {
+  for (const Place& child : parent.Children()) {
+    children.push_back({child, around.group, around.inTable});
+  }
 }
 
 std::vector<Node> ChildrenOf(std::vector<Questions> parents) {
   std::vector<Node> children;
-  for (Questions& parent : parents) AddChildren(parent, "", children);
+  for (Questions& parent : parents) AddChildren(parent, {}, children);
   return children;
 }
 
@@ -190,7 +220,7 @@ ScreenReader::~ScreenReader() {
 std::vector<Widget> ScreenReader::Widgets() const {
   std::vector<Widget> widgets;
   const Place registry{QStringLiteral("org.a11y.atspi.Registry"), rootPath};
-  const std::vector<Node> programs = ChildrenOf(AskAll(bus_, {{registry, ""}}));
+  const std::vector<Node> programs = ChildrenOf(AskAll(bus_, {{.place = registry}}));
   std::vector<Node> level = ChildrenOf(AskAll(bus_, programs));
   while (!level.empty()) {
     std::vector<Node> next;
@@ -203,9 +233,12 @@ std::vector<Widget> ScreenReader::Widgets() const {
       widgets.push_back(*widget);
       // Items of a closed list are widgets too, and many.
       if (widget->role == "combo box") continue;
-      AddChildren(asked[i], IsGroup(*widget) ? widget->name : widget->group, next);
+      AddChildren(asked[i],
+                  {.group = IsGroup(*widget) ? widget->name : widget->group,
+                   .inTable = widget->role == "table"},
+                  next);
     }
-    level = std::move(next);
+    level = InSight(bus_, next);
   }
   return widgets;
 }
