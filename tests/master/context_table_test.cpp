@@ -123,7 +123,7 @@ TEST_F(ContextTableTest, WhateverIsPackedComesBackCellByCell) {
   int full = 0;
   int corvela = 0;
   int empty = 0;
-  for (unsigned seed = 0; seed < 100; ++seed) {
+  for (unsigned seed = 0; seed < 60; ++seed) {
     const Contents contents = RandomContents(seed).Make();
     for (const auto& [context, list] : contents) {
       full += list.size() == 100 ? 1 : 0;
@@ -141,13 +141,13 @@ TEST_F(ContextTableTest, WhateverIsPackedComesBackCellByCell) {
     EXPECT_EQ(UnpackContexts(), free) << seed;
     ASSERT_EQ(Work(), work) << seed;
   }
-  EXPECT_GT(full, 20);
+  EXPECT_GT(full, 10);
   EXPECT_GT(corvela, 100);
   EXPECT_GT(empty, 500);
 }
 
 TEST_F(ContextTableTest, AModuleGivesTheSameContextsBackAsNumbers) {
-  for (unsigned seed = 100; seed < 120; ++seed) {
+  for (unsigned seed = 60; seed < 70; ++seed) {
     Edit(RandomContents(seed).Make());
     const std::vector<Cell> work = Work();
     const int free = PackContexts();
