@@ -100,6 +100,8 @@ void TimeProgramScreenFields::ClearMoment() {
 }
 
 void TimeProgramScreenFields::ShowMoment(bool visible) {
+  // Another day is one of the two ways out of the question for a date: it stays in sight.
+  if (!visible && calendar.visible) return;
   for (Field* field : std::initializer_list<Field*>{&timeLabel, &time, &dayLabel, &day}) {
     field->visible = field->enabled = visible;
   }

@@ -115,6 +115,15 @@ TEST_F(TimeEditorTest, AnotherDayEndsTheQuestionForADate) {
   ExpectStored({"00", "00", 7, 0, 0, 0, 65, 0, 1});
 }
 
+TEST_F(TimeEditorTest, AnotherLetterLeavesTheDayInSightWhileADateIsAskedFor) {
+  Prepare("Op datum");
+  fields.picker.letter.Pick(1);
+  ExpectAsksForDate(true);
+  EXPECT_TRUE(fields.day.visible && fields.day.enabled);
+  PickDay("Zaterdag");
+  ExpectAsksForDate(false);
+}
+
 TEST_F(TimeEditorTest, ADateCanBeAskedForAgainAndBeginsWithTodayAnew) {
   Prepare("Op datum");
   fields.calendar.Pick({2027, 1, 9});
