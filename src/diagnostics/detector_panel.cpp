@@ -226,6 +226,7 @@ void LoadDetectorTest() {
   DetectorPanel& panel = DiagnosticsScreen.detectors;
   Show(panel.group.caption, TextId::DetectorsTitle);
   Show(panel.help.caption, TextId::DetectorLegend);
+  panel.help.visible = Language.Number() == Dutch;
   Show(panel.update.caption, TextId::Update);
   ShowColumns();
   std::vector<std::string> levels;
