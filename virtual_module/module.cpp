@@ -52,9 +52,12 @@ std::string Module::Run(std::int64_t now) {
   return std::exchange(left_, {});
 }
 
-bool Module::PressButton(int index) {
+bool Module::PressButton(int index, std::optional<std::int64_t> now) {
   if (index < 0 || index >= buttonCount) {
     throw std::out_of_range("no button has the index " + std::to_string(index));
+  }
+  if (now) {
+    Advance(*now);
   }
   LiveLines lines = live_.Press(index);
   const bool goesOut = !lines.lines.empty();
@@ -271,7 +274,8 @@ void Module::CompleteLine(std::string error) {
     return;
   }
   const std::string command = record.text.substr(0, record.text.find('\r'));
-  const bool shapedAsCommand = command.size() == commandLength && command.front() == 'T';
+  const bool shapedAsCommand = command.size() == commandLength && command.front() == 'T' &&
+                               command.find('\n') == std::string::npos;
   const bool known = !ReadRowsOf(options_.kind, command).empty() ||
                      !WriteRowsOf(options_.kind, command).empty() || live_.Knows(command);
   const bool heard = state_ == State::AwaitingCommand || state_ == State::Silent;

@@ -52,9 +52,9 @@ class Module {
   const Memory& memory() const { return options_.memory; }
   Memory& memory() { return options_.memory; }
 
-  // Somebody presses push-button 0..99 now, which is the time of the last call of Receive or Run.
-  // Says whether a line goes out: only while the buttons are tested. Throws std::out_of_range.
-  bool PressButton(int index);
+  // Somebody presses push-button 0..99, at `now` or else at the time of the last call. Says whether
+  // a line goes out: only while the buttons are tested. Throws std::out_of_range.
+  bool PressButton(int index, std::optional<std::int64_t> now = std::nullopt);
 
   // Somebody opens or closes the contact of detector 0..11 of an alarm module; the next line of the
   // detector tells. Throws std::out_of_range for another index, or a kind that has no detectors.
@@ -69,8 +69,8 @@ class Module {
     return live_.detectors().all();
   }
 
-  // Where the clock of a master stands at the time of the last call of Receive or Run.
-  ClockTime ClockNow() const { return live_.clock().At(clock_); }
+  // Where the clock of a master stands at `now`, which is not before the last call.
+  ClockTime ClockAt(std::int64_t now) const { return live_.clock().At(now * thirdsPerMicrosecond); }
 
   // The live test that is going on.
   std::optional<LiveTest> runningTest() const { return live_.running(); }
