@@ -99,8 +99,16 @@ const LiveTest Test{.command = Test3,
                     .sendStop = nullptr,
                     .ended = nullptr};
 
-void Ask() {
+/// Whether everything has gone out or not.
+void EndSending() {
+  if (!ClockSend.Enabled()) return;
   ClockSend.Disable();
+  DiagnosticsScreen.bar.visible = false;
+  Show(DiagnosticsScreen.status.caption, TextId::Ready);
+}
+
+void Ask() {
+  EndSending();
   asked = true;
   linesTaken = 0;
   Blank(DiagnosticsScreen.clock.master);
@@ -111,33 +119,35 @@ void Ask() {
 
 // --- Setting it ---------------------------------------------------------------------------------
 
+void AwaitNextLine() {
+  Show(DiagnosticsScreen.status.caption, TextId::SendingClock);
+  DiagnosticsScreen.bar.visible = true;
+  ClockSend.Enable();
+}
+
 void Synchronise() {
   DiagnosticsScreen.clock.synchronise.enabled = false;
-  Show(DiagnosticsScreen.status.caption, TextId::SendingClock);
   DiagnosticsScreen.bar.Start(2);
-  DiagnosticsScreen.bar.visible = true;
   sendStep = 0;
-  ClockSend.Enable();
+  AwaitNextLine();
 }
 
 /// The first line has the time, the second the date of the same moment.
 void SendNextLine() {
   // A port that fails here ends the sending.
-  ClockSend.Disable();
+  EndSending();
   ++sendStep;
   AdvanceTestBar();
   if (sendStep == 1) {
     sent = Now();
     Port->Write("T" + Two(sent.hour) + Two(sent.minute) + std::to_string(sent.weekday) +
                 std::string(LineEnd));
-    ClockSend.Enable();
+    AwaitNextLine();
     return;
   }
   Port->Write("T" + Two(sent.date.day) + Two(sent.date.month) + Two(sent.date.year) +
               std::string(LineEnd));
-  DiagnosticsScreen.bar.visible = false;
   ShowMoment(DiagnosticsScreen.clock.master, sent);
-  Show(DiagnosticsScreen.status.caption, TextId::Ready);
   Show(DiagnosticsScreen.clock.synchronise.caption, TextId::Ok);
 }
 
@@ -186,7 +196,7 @@ void OpenClockTest() {
 /// never asked has no open port, and nothing to end.
 void LeaveClockTest() {
   PcClock.Disable();
-  ClockSend.Disable();
+  EndSending();
   if (!asked) return;
   asked = false;
   if (Port->IsOpen()) Port->Close();
