@@ -4,8 +4,16 @@
 
 #include <set>
 
+#include "diagnostics/diagnostics_screen.h"
+#include "image/file_lines.h"
+#include "link/transfer.h"
+#include "master/context_screen.h"
+#include "master/light_program_screen.h"
+#include "master/time_program_screen.h"
 #include "output/button_screen.h"
 #include "output/output_screen.h"
+#include "shell/module_file.h"
+#include "special/alarm_screen.h"
 #include "support/session_test.h"
 
 namespace bkconf {
@@ -25,14 +33,30 @@ class ActionButtonsTest : public SessionTest, public testing::WithParamInterface
     Plug(GetParam());
     ReadModule();
   }
-  /// What a click opens: an editor by its name, or else the action that the handlers have noted.
+  void OpenFile() {
+    Start();
+    files.content["/house/a.BK1"] = FileOf(GetParam());
+    OpenModule("/house/a.BK1");
+  }
+  /// What a click opens, at once or when the module has told what it was asked for: an editor by
+  /// its name, or else the action that the handlers have noted.
   std::vector<std::string> OpenedBy(const ButtonField& button) {
     opened.clear();
-    ButtonScreen.shown = OutputScreen.shown = MainWindow.modulePage.page.visible = false;
+    for (Screen* screen : Editors) screen->shown = false;
+    MainWindow.modulePage.page.visible = false;
     button.Click();
+    asked = TransferUnderWay;
+    if (asked) {
+      EXPECT_EQ(Shown(), std::vector<std::string>{}) << button.name;
+      FinishTransfer();
+    }
+    return Shown();
+  }
+  std::vector<std::string> Shown() const {
     std::vector<std::string> names;
-    if (ButtonScreen.shown) names.push_back(ButtonScreen.name);
-    if (OutputScreen.shown) names.push_back(OutputScreen.name);
+    for (const Screen* screen : Editors) {
+      if (screen->shown) names.push_back(screen->name);
+    }
     if (MainWindow.modulePage.page.visible) names.push_back(MainWindow.modulePage.page.name);
     for (const Action action : opened) names.push_back(NameOf(action));
     return names;
@@ -45,13 +69,31 @@ class ActionButtonsTest : public SessionTest, public testing::WithParamInterface
       case Action::OutputFunctions:
       case Action::DimStartValues:
         return "OutputScreen";
+      case Action::Contexts:
+        return "ContextScreen";
+      case Action::TimePrograms:
+        return "TimeProgramScreen";
+      case Action::LightPrograms:
+        return "LightProgramScreen";
       case Action::Configuration:
         return "modulePage";
+      case Action::Detectors:
+        return "AlarmScreen";
+      case Action::Diagnostics:
+        return "DiagnosticsScreen";
       default:
         return "action " + std::to_string(static_cast<int>(action));
     }
   }
+  static bool AsksTheModule(Action action) {
+    return action == Action::Contexts || action == Action::TimePrograms ||
+           action == Action::LightPrograms;
+  }
+  inline static const std::vector<Screen*> Editors = {
+      &ButtonScreen,       &OutputScreen, &ContextScreen,    &TimeProgramScreen,
+      &LightProgramScreen, &AlarmScreen,  &DiagnosticsScreen};
   std::vector<Action> opened;
+  bool asked = false;  ///< the last click began a read
 };
 
 TEST_P(ActionButtonsTest, AButtonThatHasNothingToOpenIsShownButNotUsable) {
@@ -72,6 +114,23 @@ TEST_P(ActionButtonsTest, EveryButtonOfTheKindOpensItsOwnScreenAfterARead) {
     EXPECT_EQ(button.Usable(), ActionButtons[i].kinds.Contains(GetParam())) << button.name;
     if (button.Usable()) {
       EXPECT_EQ(OpenedBy(button), std::vector{NameOf(ActionButtons[i].action)}) << button.name;
+      EXPECT_EQ(asked, AsksTheModule(ActionButtons[i].action)) << button.name;
+    } else {
+      EXPECT_TRUE(OpenedBy(button).empty()) << button.name;
+    }
+  }
+}
+
+TEST_P(ActionButtonsTest, EveryButtonOfTheKindOpensItsOwnScreenAtOnceAfterOpeningAFile) {
+  FillHandlers();
+  OpenFile();
+  for (std::size_t i = 0; i < ActionButtons.size(); ++i) {
+    const ButtonField& button = *MainWindow.actionButtons[i];
+    const bool shown = ActionButtons[i].kinds.Contains(GetParam()) && !ActionButtons[i].testsModule;
+    EXPECT_EQ(button.Usable(), shown) << button.name;
+    if (button.Usable()) {
+      EXPECT_EQ(OpenedBy(button), std::vector{NameOf(ActionButtons[i].action)}) << button.name;
+      EXPECT_FALSE(asked) << button.name;
     } else {
       EXPECT_TRUE(OpenedBy(button).empty()) << button.name;
     }
