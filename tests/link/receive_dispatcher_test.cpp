@@ -81,6 +81,18 @@ TEST_F(ReceiveDispatcherTest, TheAcknowledgeOfBothDetectorTestsEnablesTheirStopB
   EXPECT_EQ(Dispatch("M80000", 5, "T80400"), RearmedWith(LinkEvent::DetectorTestReady));
 }
 
+TEST_F(ReceiveDispatcherTest, TheAcknowledgeOfTheLineTestEnablesItsStopButton) {
+  for (const int kind : {0, 1, 4, 5, 9, 11}) {
+    EXPECT_EQ(Dispatch("M80000", kind, "T80100"), RearmedWith(LinkEvent::LineTestReady)) << kind;
+  }
+}
+
+TEST_F(ReceiveDispatcherTest, TheTestsOfLightAndClockHaveNoStopButton) {
+  for (const char* command : {"T80300", "T80500"}) {
+    EXPECT_EQ(Dispatch("M80000", 9, command), Rearmed) << command;
+  }
+}
+
 TEST_F(ReceiveDispatcherTest, EveryOtherReadAcknowledgeIsPassedOver) {
   for (const int kind : AllKinds) EXPECT_EQ(Dispatch("M80000", kind, "T80000"), Rearmed) << kind;
   EXPECT_EQ(Dispatch("M80000", 9, "T80300"), Rearmed);

@@ -4,6 +4,7 @@
 
 #include <set>
 
+#include "diagnostics/diagnostics_screen.h"
 #include "image/file_lines.h"
 #include "link/transfer.h"
 #include "master/context_screen.h"
@@ -12,6 +13,7 @@
 #include "output/button_screen.h"
 #include "output/output_screen.h"
 #include "shell/module_file.h"
+#include "special/alarm_screen.h"
 #include "support/session_test.h"
 
 namespace bkconf {
@@ -75,6 +77,10 @@ class ActionButtonsTest : public SessionTest, public testing::WithParamInterface
         return "LightProgramScreen";
       case Action::Configuration:
         return "modulePage";
+      case Action::Detectors:
+        return "AlarmScreen";
+      case Action::Diagnostics:
+        return "DiagnosticsScreen";
       default:
         return "action " + std::to_string(static_cast<int>(action));
     }
@@ -83,8 +89,9 @@ class ActionButtonsTest : public SessionTest, public testing::WithParamInterface
     return action == Action::Contexts || action == Action::TimePrograms ||
            action == Action::LightPrograms;
   }
-  inline static const std::vector<Screen*> Editors = {&ButtonScreen, &OutputScreen, &ContextScreen,
-                                                      &TimeProgramScreen, &LightProgramScreen};
+  inline static const std::vector<Screen*> Editors = {
+      &ButtonScreen,       &OutputScreen, &ContextScreen,    &TimeProgramScreen,
+      &LightProgramScreen, &AlarmScreen,  &DiagnosticsScreen};
   std::vector<Action> opened;
   bool asked = false;  ///< the last click began a read
 };

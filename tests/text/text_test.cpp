@@ -188,6 +188,7 @@ const std::set<TextId> BeginWithABlank = {
     TextId::InAllRooms,     TextId::InRoom,
     TextId::DegreesInRoom,  TextId::DegreesInAllRooms,
     TextId::LinkedFor,      TextId::ContextFull,
+    TextId::HistoryButton,
 };
 
 /// Texts that something follows.
@@ -204,7 +205,8 @@ const std::set<TextId> EndInABlank = {
     TextId::LumenzaTitle,     TextId::TemperatureTitle, TextId::LcdTitle,
     TextId::AlarmTitle,       TextId::AudioTitle,       TextId::SimulationTitle,
     TextId::IrTitle,          TextId::ButtonNumber,     TextId::ActiveAfterOutput,
-    TextId::LockedWithOutput, TextId::LinkedFor,
+    TextId::LockedWithOutput, TextId::LinkedFor,        TextId::HistoryTime,
+    TextId::HistoryButton,
 };
 
 TEST(TextTest, OnlyTextsThatAreMeantToBeginOrEndInABlank) {
