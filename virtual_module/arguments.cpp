@@ -4,6 +4,8 @@
 #include <charconv>
 #include <string_view>
 
+#include "virtual_module/console.h"
+#include "virtual_module/digits.h"
 #include "virtual_module/kinds.h"
 
 namespace virtual_module {
@@ -20,8 +22,15 @@ constexpr std::string_view helpHead =
     "  --save FILE   .BK1 file to write after each completed write and at the end\n"
     "  --log FILE    text file with one line for each unit on the line\n"
     "  --fault NAME  misbehaves in one way, see below\n"
-    "  --seed N      chooses the memory without an image, and the order of out-of-order\n"
-    "  --help        this text\n";
+    "  --seed N      chooses the memory without an image, the order of out-of-order, and\n"
+    "                what live tests show that stands in no cell\n"
+    "  --clock TIME  where the clock of a master starts, by default 2026-03-02T08:30\n"
+    "  --press MS    while the buttons are tested, presses one every MS milliseconds,\n"
+    "                at least 10\n"
+    "  --help        this text\n"
+    "\n"
+    "Lines of standard input, numbers as the tool shows them; its end changes nothing:\n"
+    "\n";
 
 template <typename Number>
 Number NumberOf(const std::string& option, const std::string& word) {
@@ -31,6 +40,36 @@ Number NumberOf(const std::string& option, const std::string& word) {
     throw ArgumentError(option + ": \"" + word + "\" is not a number");
   }
   return number;
+}
+
+std::int64_t PressArgument(const std::string& word) {
+  constexpr std::int64_t shortest = 10;  // ms; a line of a button takes 4
+  constexpr std::int64_t longest = 86400000;
+  const auto milliseconds = NumberOf<std::int64_t>("--press", word);
+  if (milliseconds < shortest || milliseconds > longest) {
+    throw ArgumentError("--press: " + word + " is not in " + std::to_string(shortest) + ".." +
+                        std::to_string(longest));
+  }
+  return milliseconds * 1000;
+}
+
+ClockTime ClockArgument(const std::string& word) {
+  constexpr std::string_view form = "0000-00-00T00:00";
+  bool matches = word.size() == form.size();
+  for (std::size_t i = 0; matches && i < form.size(); ++i) {
+    matches = form[i] == '0' ? word[i] >= '0' && word[i] <= '9' : word[i] == form[i];
+  }
+  if (!matches) {
+    throw ArgumentError("--clock: \"" + word + "\" is not of the form 2026-03-02T08:30");
+  }
+  const auto number = [&word](std::size_t first, std::size_t count) {
+    return NumberOfDigits(std::string_view(word).substr(first, count)).value_or(0);
+  };
+  return {.year = number(0, 4),
+          .month = number(5, 2),
+          .day = number(8, 2),
+          .hour = number(11, 2),
+          .minute = number(14, 2)};
 }
 
 int KindArgument(const std::string& word) {
@@ -66,6 +105,10 @@ void TakeOption(Arguments& arguments, const std::string& option, const std::stri
     arguments.fault = FaultArgument(word);
   } else if (option == "--seed") {
     arguments.seed = NumberOf<std::uint32_t>("--seed", word);
+  } else if (option == "--clock") {
+    arguments.clock = ClockArgument(word);
+  } else if (option == "--press") {
+    arguments.pressEvery = PressArgument(word);
   } else {
     throw ArgumentError(option + ": there is no such option");
   }
@@ -103,6 +146,9 @@ Arguments ParseArguments(const std::vector<std::string>& words) {
 
 std::string HelpText() {
   std::string text(helpHead);
+  for (const ConsoleRow& row : ConsoleCommands()) {
+    text += Padded(row.form, 27) + std::string(row.description) + "\n";
+  }
   text += "\nkinds:\n";
   for (const KindRow& row : Kinds()) {
     text += Padded(std::to_string(row.kind), 6) + std::string(row.caption) + "\n";

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "virtual_module/fault.h"
+#include "virtual_module/module_clock.h"
 
 namespace virtual_module {
 
@@ -21,6 +22,8 @@ struct Arguments {
   std::optional<std::filesystem::path> log;
   std::optional<Fault> fault;
   std::uint32_t seed = 1;
+  ClockTime clock;
+  std::int64_t pressEvery = 0;  // us; 0: never
 };
 
 struct ArgumentError : std::runtime_error {
@@ -31,7 +34,7 @@ struct ArgumentError : std::runtime_error {
 // why. With --help nothing else is looked at.
 Arguments ParseArguments(const std::vector<std::string>& words);
 
-// What --help prints: options, kinds, faults.
+// What --help prints: options, standard input, kinds, faults.
 std::string HelpText();
 
 }  // namespace virtual_module

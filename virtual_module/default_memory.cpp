@@ -1,6 +1,6 @@
-#include <random>
 #include <string_view>
 
+#include "virtual_module/chance.h"
 #include "virtual_module/memory.h"
 
 namespace virtual_module {
@@ -8,20 +8,6 @@ namespace {
 
 using enum TableName;
 using Cells = std::vector<int>;
-
-// Numbers that are the same on every platform: the distributions of the library are not.
-class Chance {
- public:
-  explicit Chance(std::uint32_t seed) : source_(seed) {}
-  int In(int low, int high) {
-    const auto width = static_cast<std::uint32_t>(high - low + 1);
-    return low + static_cast<int>(source_() % width);
-  }
-  bool OneIn(int count) { return In(1, count) == 1; }
-
- private:
-  std::mt19937 source_;
-};
 
 int& At(Cells& cells, int index) {
   return cells.at(static_cast<std::size_t>(index));

@@ -13,7 +13,7 @@ namespace virtual_module {
 enum class UnitKind {
   Burst,    // from the tool: "D" without a terminator, `count` of them
   Command,  // from the tool: up to CR
-  Frame,    // from the tool: one cell of a write
+  Frame,    // from the tool: one cell of a write, or what it says in a live test
   Noise,    // from the tool: characters that begin nothing
   Polls,    // from the module: `count` times "M", the characters 50 ms apart
   Line,     // from the module: up to CR, or the part of it that left before a break
@@ -28,7 +28,10 @@ struct FrameRecord {
   std::string error;  // empty when the unit is what was due here
 
   // Frame only.
-  std::string command;             // the write that it belongs to
+  std::string command;  // the write or test that it belongs to
+  std::string meaning;  // in a live test: what the module did on it
+
+  // Frame of a write only.
   int wireIndex = -1;              // the three digits behind the "T", -1 when they are none
   std::optional<TableName> table;  // where its value was stored, if it was
   int cell = -1;

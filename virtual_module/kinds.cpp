@@ -172,6 +172,34 @@ constexpr WriteRow writeRows[] = {
     {9, "T73000", LightProgramTable, 0, 999, three, twoEmpty},
 };
 
+constexpr int firstLongVersion = 65;  // alarm modules from here on tell more of a detector
+
+// Rows of a kind stand together.
+constexpr LiveRow liveRows[] = {
+    {0, "T80100", LiveTest::Line},
+    {0, "T80200", LiveTest::Buttons},
+    {0, "T80300", LiveTest::Outputs},
+    {1, "T80100", LiveTest::Line},
+    {1, "T80200", LiveTest::Buttons},
+    {1, "T80300", LiveTest::Outputs},
+    {4, "T80100", LiveTest::Line},
+    {4, "T80200", LiveTest::Buttons},
+    {4, "T80300", LiveTest::Outputs},
+    {11, "T80100", LiveTest::Line},
+    {11, "T80200", LiveTest::Buttons},
+    {11, "T80300", LiveTest::Outputs},
+
+    {5, "T80100", LiveTest::Line},
+    {5, "T80200", LiveTest::Buttons},
+    {5, "T80300", LiveTest::ShortDetectors, 0, firstLongVersion - 1},
+    {5, "T80400", LiveTest::LongDetectors, firstLongVersion},
+
+    {9, "T80100", LiveTest::Line},
+    {9, "T80200", LiveTest::Buttons},
+    {9, "T80300", LiveTest::Clock},
+    {9, "T80500", LiveTest::Light},
+};
+
 struct FixedRow {
   int kind;
   TableName table;
@@ -235,6 +263,17 @@ std::span<const ReadRow> ReadRowsOf(int kind, std::string_view command) {
 
 std::span<const WriteRow> WriteRowsOf(int kind, std::string_view command) {
   return RowsOfCommand(std::span<const WriteRow>(writeRows), kind, command);
+}
+
+std::span<const LiveRow> LiveRowsOf(int kind) {
+  return RowsThat(std::span<const LiveRow>(liveRows),
+                  [kind](const LiveRow& row) { return row.kind == kind; });
+}
+
+bool HasLiveTest(int kind, LiveTest test) {
+  const std::span<const LiveRow> rows = LiveRowsOf(kind);
+  return std::any_of(rows.begin(), rows.end(),
+                     [test](const LiveRow& row) { return row.test == test; });
 }
 
 std::string_view NameOf(TableName table) {

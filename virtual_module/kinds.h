@@ -1,5 +1,6 @@
-// What a module of each kind knows of itself: identity, memory tables, read commands and write
-// blocks. Used by the module model only; the tool has its own tables, and this one checks them.
+// What a module of each kind knows of itself: identity, memory tables, read commands, write blocks
+// and live tests. Used by the module model only; the tool has its own tables, and this one checks
+// them.
 #pragma once
 
 #include <optional>
@@ -88,6 +89,26 @@ struct WriteRow {
   EarlyEnd earlyEnd;
 };
 
+// What a module shows of itself live, without touching its memory.
+enum class LiveTest {
+  Line,            // ten samples of the level of the input line
+  Buttons,         // each push-button as it is pressed, until stopped
+  Light,           // ten samples of the light sensor
+  Clock,           // the time and the date
+  Outputs,         // switches outputs as it is told, until stopped
+  ShortDetectors,  // the contacts of the detectors, until stopped
+  LongDetectors,   // the same with measured value, level and code
+};
+
+// A command that starts a live test, in modules of the versions `firstVersion` to `lastVersion`.
+struct LiveRow {
+  int kind;
+  std::string_view command;
+  LiveTest test;
+  int firstVersion = 0;
+  int lastVersion = 999;
+};
+
 inline constexpr int emptyCell = 42;  // marks a record of a list that holds nothing
 
 std::span<const KindRow> Kinds();
@@ -101,6 +122,10 @@ std::span<const TableRow> TablesOf(int kind);
 // The rows of a command in the order of transfer; empty when the kind does not know the command.
 std::span<const ReadRow> ReadRowsOf(int kind, std::string_view command);
 std::span<const WriteRow> WriteRowsOf(int kind, std::string_view command);
+
+// The live tests of `kind` in every version; empty when it has none.
+std::span<const LiveRow> LiveRowsOf(int kind);
+bool HasLiveTest(int kind, LiveTest test);  // in any version
 
 std::string_view NameOf(TableName table);
 std::optional<TableName> TableByName(std::string_view name);

@@ -31,6 +31,9 @@ std::string LogLine(const FrameRecord& record) {
   if (record.kind == UnitKind::Polls) {
     line += " x " + std::to_string(record.count);
   }
+  if (!record.meaning.empty()) {
+    line += " = " + record.meaning;
+  }
   return line;
 }
 

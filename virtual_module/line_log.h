@@ -1,8 +1,9 @@
 // The log of a line: one text line for each completed unit of either direction. Used by the
 // program; the form is
-//   <first byte us> <last byte us> tool|module <text>[ x <count>]
+//   <first byte us> <last byte us> tool|module <text>[ x <count>][ = <meaning>]
 // with CR as \r, LF as \n, backslash as \\ and other bytes outside 32..126 as \xHH. A run of polls
-// is one line with its count, written when it is over.
+// is one line with its count, written when it is over. What the tool says in a live test is
+// followed by what the module did on it, such as "output 3 on".
 #pragma once
 
 #include <cstddef>

@@ -1,6 +1,7 @@
 // The program virtual_module: a module of any kind on a pseudo-terminal, for demonstrations and for
 // tests that run the whole tool.
 #include <sys/prctl.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <chrono>
@@ -10,6 +11,7 @@
 #include <stdexcept>
 
 #include "virtual_module/arguments.h"
+#include "virtual_module/console.h"
 #include "virtual_module/line_log.h"
 #include "virtual_module/memory.h"
 #include "virtual_module/module.h"
@@ -78,7 +80,9 @@ class Session {
         module_({.kind = arguments.kind,
                  .memory = StartMemory(arguments),
                  .fault = arguments.fault,
-                 .seed = arguments.seed}),
+                 .seed = arguments.seed,
+                 .clock = arguments.clock,
+                 .pressEvery = arguments.pressEvery}),
         signals_(CatchSignals()),
         terminal_(arguments.link) {
     if (arguments.log) {
@@ -91,12 +95,14 @@ class Session {
     while (!ended && !module_.vanished()) {
       const std::optional<std::int64_t> due = module_.NextDue();
       const std::int64_t wait = due ? *due - clock.Now() : longestWait;
-      if (terminal_.Wait(std::clamp<std::int64_t>(wait, 0, longestWait), signals_)) {
+      if (terminal_.Wait(std::clamp<std::int64_t>(wait, 0, longestWait), signals_,
+                         console_.descriptor())) {
         for (const char character : terminal_.Receive()) {
           module_.Receive(static_cast<unsigned char>(character), clock.Now());
         }
       }
       Send(module_.Run(clock.Now()));
+      ObeyConsole();
       terminal_.AllowOthers();
       Record();
     }
@@ -127,6 +133,19 @@ class Session {
     terminal_.Send(characters);
   }
 
+  void ObeyConsole() {
+    for (const std::string& line : console_.Lines()) {
+      try {
+        const std::string answer = Obey(module_, line);
+        if (!answer.empty()) {
+          std::cout << answer << std::endl;
+        }
+      } catch (const ConsoleError& error) {
+        std::cerr << "virtual_module: " << error.what() << std::endl;
+      }
+    }
+  }
+
   void Record() {
     if (log_) {
       log_->Write(module_);
@@ -141,6 +160,7 @@ class Session {
   Module module_;
   sigset_t signals_;
   PseudoTerminal terminal_;
+  Console console_{STDIN_FILENO};
   std::optional<LineLog> log_;
   int savedWrites_ = 0;
 };

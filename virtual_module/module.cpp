@@ -9,10 +9,6 @@
 namespace virtual_module {
 namespace {
 
-constexpr Thirds Milliseconds(std::int64_t count) {
-  return count * 1000 * thirdsPerMicrosecond;
-}
-
 constexpr Thirds pollPeriod = Milliseconds(50);
 // The tool drops what has come in by the end of its burst, so the answer waits for a quiet line.
 constexpr Thirds burstQuiet = Milliseconds(30);
@@ -26,7 +22,12 @@ constexpr int vanishingFrames = 20;
 }  // namespace
 
 Module::Module(Options options)
-    : options_(std::move(options)), pollForIdentity_(options_.fault == Fault::PollDuringIdentity) {
+    : options_(std::move(options)),
+      pollForIdentity_(options_.fault == Fault::PollDuringIdentity),
+      live_(options_.memory, {.fault = options_.fault,
+                              .seed = options_.seed,
+                              .clock = options_.clock,
+                              .pressEvery = options_.pressEvery}) {
   if (KindOf(options_.kind).kind != options_.memory.kind()) {
     throw std::invalid_argument("the memory is of another kind than the module");
   }
@@ -49,6 +50,27 @@ std::optional<std::int64_t> Module::NextDue() const {
 std::string Module::Run(std::int64_t now) {
   Advance(now);
   return std::exchange(left_, {});
+}
+
+bool Module::PressButton(int index, std::optional<std::int64_t> now) {
+  if (index < 0 || index >= buttonCount) {
+    throw std::out_of_range("no button has the index " + std::to_string(index));
+  }
+  if (now) {
+    Advance(*now);
+  }
+  LiveLines lines = live_.Press(index);
+  const bool goesOut = !lines.lines.empty();
+  SendLive(std::move(lines), clock_);
+  return goesOut;
+}
+
+void Module::SetContact(int detector, bool open) {
+  if (!HasLiveTest(options_.kind, LiveTest::LongDetectors)) {
+    throw std::out_of_range("a module of kind " + std::to_string(options_.kind) +
+                            " has no detectors");
+  }
+  live_.detectors().SetContact(detector, open);
 }
 
 int Module::errors() const {
@@ -75,6 +97,8 @@ void Module::Receive(unsigned char byte, std::int64_t now) {
     case State::Burst:
     case State::AwaitingCommand:
     case State::Reading:
+    case State::Testing:
+    case State::Closing:
       if (character != 'D') {
         CollectLine(character, now);
         return;
@@ -89,6 +113,7 @@ void Module::Advance(std::int64_t now) {
   clock_ = std::max(clock_, now * thirdsPerMicrosecond);
   if (!switchedOn_) {
     switchedOn_ = true;
+    live_.SwitchOn(clock_);
     if (options_.fault == Fault::Silent) {
       state_ = State::Silent;
     } else {
@@ -125,7 +150,13 @@ void Module::OnDeadline() {
       StartPolling(gaveUp);
       break;
     }
+    case State::Testing: {
+      const Thirds now = *deadline_;
+      SendLive(live_.Next(now), now);
+      break;
+    }
     case State::Reading:
+    case State::Closing:
     case State::Silent:
     case State::Vanished:
       deadline_.reset();
@@ -135,24 +166,25 @@ void Module::OnDeadline() {
 
 // The last character of everything queued has just left, at the end of its line time.
 void Module::OnAllSent() {
-  if (state_ != State::Reading) {
-    return;
+  if (state_ == State::Reading) {
+    ++completedReads_;
+    EndAnswer();
+  } else if (state_ == State::Closing) {
+    completedTests_ += answerEnd_ == ScriptEnd::Poll ? 1 : 0;
+    EndAnswer();
   }
-  ++completedReads_;
-  const Thirds end = transmitter_.lastLeave();
-  switch (afterRead_) {
-    case State::Silent:
+}
+
+void Module::EndAnswer() {
+  switch (answerEnd_) {
+    case ScriptEnd::Poll:
+      StartPolling(transmitter_.lastLeave() + pollPeriod);
+      break;
+    case ScriptEnd::FallSilent:
       state_ = State::Silent;
       break;
-    case State::Vanished:
+    case ScriptEnd::Vanish:
       Vanish();
-      break;
-    case State::Polling:
-    case State::Burst:
-    case State::AwaitingCommand:
-    case State::Reading:
-    case State::Writing:
-      StartPolling(end + pollPeriod);
       break;
   }
 }
@@ -170,6 +202,7 @@ void Module::Poll() {
 void Module::TakeBurst(std::int64_t now) {
   if (state_ != State::Burst) {
     BreakOffReception();
+    live_.Forget();
     transmitter_.Drop();
     transmitter_.EndPolls();
     state_ = State::Burst;
@@ -237,17 +270,21 @@ void Module::CollectLine(char character, std::int64_t now) {
 
 void Module::CompleteLine(std::string error) {
   FrameRecord record = std::exchange(line_, {});
+  if (error.empty() && TakeLiveFrame(record)) {
+    return;
+  }
   const std::string command = record.text.substr(0, record.text.find('\r'));
-  const bool shapedAsCommand = command.size() == commandLength && command.front() == 'T';
-  const bool known =
-      !ReadRowsOf(options_.kind, command).empty() || !WriteRowsOf(options_.kind, command).empty();
+  const bool shapedAsCommand = command.size() == commandLength && command.front() == 'T' &&
+                               command.find('\n') == std::string::npos;
+  const bool known = !ReadRowsOf(options_.kind, command).empty() ||
+                     !WriteRowsOf(options_.kind, command).empty() || live_.Knows(command);
   const bool heard = state_ == State::AwaitingCommand || state_ == State::Silent;
   record.kind = shapedAsCommand ? UnitKind::Command : UnitKind::Noise;
   record.error = std::move(error);
   if (record.error.empty() && !shapedAsCommand) {
     record.error = "not a command";
   } else if (record.error.empty() && !known) {
-    record.error = "a command that this kind does not know";
+    record.error = "a command that this module does not know";
   } else if (record.error.empty() && !heard) {
     record.error = "a command out of turn";
   }
@@ -263,7 +300,7 @@ void Module::OnCommand(const std::string& command) {
   deadline_.reset();
   if (options_.fault == Fault::SilentAfterCommand) {
     state_ = State::Silent;
-  } else if (!StartRead(command) && !StartWrite(command)) {
+  } else if (!StartRead(command) && !StartWrite(command) && !StartTest(command)) {
     StartPolling(clock_ + pollPeriod);
   }
 }
@@ -276,17 +313,7 @@ bool Module::StartRead(std::string_view command) {
   for (std::string& line : script.lines) {
     transmitter_.Queue(UnitKind::Line, std::move(line), clock_);
   }
-  switch (script.end) {
-    case ScriptEnd::Poll:
-      afterRead_ = State::Polling;
-      break;
-    case ScriptEnd::FallSilent:
-      afterRead_ = State::Silent;
-      break;
-    case ScriptEnd::Vanish:
-      afterRead_ = State::Vanished;
-      break;
-  }
+  answerEnd_ = script.end;
   state_ = State::Reading;
   return true;
 }
@@ -300,6 +327,61 @@ bool Module::StartWrite(std::string_view command) {
   state_ = State::Writing;
   deadline_ = clock_ + framePatience;
   return true;
+}
+
+bool Module::StartTest(std::string_view command) {
+  if (!live_.Knows(command)) {
+    return false;
+  }
+  live_.Start(command, clock_);
+  transmitter_.Queue(UnitKind::Line, "M80000\r", clock_);
+  state_ = State::Testing;
+  deadline_ = live_.due();
+  return true;
+}
+
+// Only while a test is going on; it may be over with these lines.
+void Module::SendLive(LiveLines lines, Thirds now) {
+  if (state_ != State::Testing) {
+    return;
+  }
+  for (std::string& line : lines.lines) {
+    transmitter_.Queue(UnitKind::Line, std::move(line), now);
+  }
+  if (lines.end) {
+    answerEnd_ = *lines.end;
+    state_ = State::Closing;
+  }
+  deadline_ = live_.due();
+}
+
+// A frame of a live test needs no wake-up: some come when the test is over and the module polls.
+bool Module::TakeLiveFrame(FrameRecord& record) {
+  const bool deaf = state_ == State::Silent;
+  const bool listens =
+      deaf || state_ == State::Testing || state_ == State::Closing || state_ == State::Polling;
+  const LiveTaken taken = listens ? live_.Take(record, clock_, deaf) : LiveTaken::Nothing;
+  if (taken == LiveTaken::Nothing) {
+    return false;
+  }
+  received_.push_back(std::move(record));
+  if (taken == LiveTaken::Stop) {
+    OnStop();
+  } else if (state_ == State::Testing) {
+    deadline_ = live_.due();
+  }
+  return true;
+}
+
+// The line that is leaving is completed. Polls wait until no more stops come.
+void Module::OnStop() {
+  if (state_ == State::Testing) {
+    transmitter_.DropWaiting();
+    ++completedTests_;
+  }
+  if (state_ == State::Testing || state_ == State::Polling) {
+    StartPolling(clock_ + pollPeriod);
+  }
 }
 
 void Module::OnWriteCharacter(char character, std::int64_t now) {

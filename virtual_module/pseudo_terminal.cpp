@@ -88,15 +88,16 @@ PseudoTerminal::~PseudoTerminal() {
   Close();
 }
 
-bool PseudoTerminal::Wait(std::int64_t timeoutMicroseconds, const sigset_t& signals) {
-  pollfd waiting{.fd = near_, .events = POLLIN, .revents = 0};
+bool PseudoTerminal::Wait(std::int64_t timeoutMicroseconds, const sigset_t& signals, int other) {
+  std::array<pollfd, 2> waiting = {{{.fd = near_, .events = POLLIN, .revents = 0},
+                                    {.fd = other, .events = POLLIN, .revents = 0}}};
   timespec limit = TimeOf(timeoutMicroseconds);
-  const int count = ppoll(&waiting, 1, &limit, &signals);
+  const int count = ppoll(waiting.data(), waiting.size(), &limit, &signals);
   if (count <= 0) {
     return false;
   }
-  const bool input = (waiting.revents & POLLIN) != 0;
-  if (!input) {
+  const bool input = (waiting[0].revents & POLLIN) != 0;
+  if (!input && waiting[0].revents != 0) {
     timespec rest = TimeOf(hangUpRest);
     ppoll(nullptr, 0, &rest, &signals);
   }

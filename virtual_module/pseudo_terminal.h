@@ -21,9 +21,10 @@ class PseudoTerminal {
   PseudoTerminal(const PseudoTerminal&) = delete;
   PseudoTerminal& operator=(const PseudoTerminal&) = delete;
 
-  // Waits until the tool has sent something, `timeoutMicroseconds` have passed or a signal that
-  // `signals` lets through has come. Says whether there is something to receive.
-  bool Wait(std::int64_t timeoutMicroseconds, const sigset_t& signals);
+  // Waits until the tool has sent something, there is something to read from `other` (-1: nothing
+  // is looked at), `timeoutMicroseconds` have passed or a signal that `signals` lets through has
+  // come. Says whether there is something to receive from the tool.
+  bool Wait(std::int64_t timeoutMicroseconds, const sigset_t& signals, int other);
 
   // What the tool has sent and has not been received; empty when there is nothing.
   std::string Receive();

@@ -4,15 +4,12 @@
 #include <random>
 #include <utility>
 
+#include "virtual_module/digits.h"
+
 namespace virtual_module {
 namespace {
 
 constexpr std::size_t overflowLines = 8;  // more than any table's bar has to spare
-
-std::string Digits(int number, std::size_t width) {
-  const std::string text = std::to_string(number);
-  return text.size() < width ? std::string(width - text.size(), '0') + text : text;
-}
 
 // The characters in front of the index have no meaning, so they vary. None of them may make a line
 // look like an acknowledgement, an identity or the end.
@@ -21,10 +18,11 @@ std::string LineText(LineForm form, int index, int value, std::size_t lineNumber
   constexpr std::array<std::string_view, 2> singles = {"M", "C"};
   switch (form) {
     case LineForm::Index:
-      return std::string(pairs[lineNumber % pairs.size()]) + Digits(index, 3) + Digits(value, 3);
+      return std::string(pairs[lineNumber % pairs.size()]) + PaddedDigits(index, 3) +
+             PaddedDigits(value, 3);
     case LineForm::Address:
-      return std::string(singles[lineNumber % singles.size()]) + Digits(index, 4) +
-             Digits(value, 3);
+      return std::string(singles[lineNumber % singles.size()]) + PaddedDigits(index, 4) +
+             PaddedDigits(value, 3);
   }
   return {};
 }

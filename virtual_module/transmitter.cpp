@@ -1,5 +1,6 @@
 #include "virtual_module/transmitter.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace virtual_module {
@@ -42,6 +43,10 @@ void Transmitter::Drop() {
   }
   units_.clear();
   position_ = 0;
+}
+
+void Transmitter::DropWaiting() {
+  units_.resize(std::min<std::size_t>(units_.size(), position_ > 0 ? 1 : 0));
 }
 
 void Transmitter::EndPolls() {

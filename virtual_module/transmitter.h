@@ -18,6 +18,10 @@ using Thirds = std::int64_t;
 inline constexpr Thirds thirdsPerMicrosecond = 3;
 inline constexpr Thirds characterTime = 3125;
 
+constexpr Thirds Milliseconds(std::int64_t count) {
+  return count * 1000 * thirdsPerMicrosecond;
+}
+
 // The first whole microsecond at or after `time`.
 constexpr std::int64_t MicrosecondsOf(Thirds time) {
   return (time + thirdsPerMicrosecond - 1) / thirdsPerMicrosecond;
@@ -40,6 +44,9 @@ class Transmitter {
 
   // Forgets what has not left. What has left of a unit is recorded as it is.
   void Drop();
+
+  // Forgets the units of which nothing has left: the one that is leaving is completed.
+  void DropWaiting();
 
   // Completed units; polls that follow one another are one record, which stands here once the run
   // is over.

@@ -3,26 +3,17 @@
 #include <algorithm>
 #include <utility>
 
+#include "virtual_module/digits.h"
+
 namespace virtual_module {
 namespace {
 
 constexpr std::size_t pacedLength = 7;
 constexpr std::size_t longestFrame = 16;  // what goes on behind it is not a frame any more
 
-bool IsDigit(char character) {
-  return character >= '0' && character <= '9';
-}
-
 // The number that a text of one to three digits stands for, else -1.
 int NumberOf(std::string_view text) {
-  if (text.empty() || text.size() > 3 || !std::all_of(text.begin(), text.end(), IsDigit)) {
-    return -1;
-  }
-  int number = 0;
-  for (const char digit : text) {
-    number = 10 * number + (digit - '0');
-  }
-  return number;
+  return text.size() <= 3 ? NumberOfDigits(text).value_or(-1) : -1;
 }
 
 bool HasLeadingZero(std::string_view value) {

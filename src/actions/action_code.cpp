@@ -44,6 +44,15 @@ std::string ActionCode(const Cell& target, const Cell& index, const Cell& value,
          TwoDigits(value.Number() + ValueBase(target, index, form));
 }
 
+std::string ProgramActionCode(const Table& table, int cell, ValueForm form) {
+  constexpr int contextValue = 2;
+  const Cell& target = table[cell];
+  const Cell& index = table[cell + 1];
+  if (target.Number() == ContextLetter) return ActionCode(target, index, contextValue);
+  const bool corvela = target.Number() == CorvelaLetter;
+  return ActionCode(target, index, table[cell + 2], corvela ? ValueForm::OneBasedInBlocks : form);
+}
+
 std::string NormalisedActionCode(Table& table, int cell) {
   if (HoldsAction(table[cell])) return ActionCode(table[cell], table[cell + 1], table[cell + 2]);
   EraseAction(table, cell);

@@ -41,6 +41,10 @@ enum class ValueForm {
 std::string ActionCode(const Cell& target, const Cell& index, const Cell& value,
                        ValueForm form = ValueForm::OneBasedInBlocks);
 
+/// The code of the record at that cell and the two behind it, in lists where the code of a context
+/// always ends in "02". The record holds an action. `form` counts for modules only.
+std::string ProgramActionCode(const Table& table, int cell, ValueForm form);
+
 /// The code of the record at that cell and the two behind it. An empty record gives
 /// `ActionEmptyText`, and its three cells become 42.
 std::string NormalisedActionCode(Table& table, int cell);

@@ -218,9 +218,13 @@ void ActionPicker::Reset() {
   TellTarget();
 }
 
-void ActionPicker::Close() {
+void ActionPicker::Disable() {
   Reset();
   letter.enabled = false;
+}
+
+void ActionPicker::Close() {
+  Disable();
   type.visible = typeLabel.visible = false;
 }
 

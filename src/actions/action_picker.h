@@ -72,6 +72,15 @@ inline constexpr auto TimePickerTypes = std::to_array<PickerType>({
     {TextId::LumenzaModule, 11},
 });
 
+inline constexpr auto AlarmPickerTypes = std::to_array<PickerType>({
+    {TextId::RelayModule, 0},
+    {TextId::DimType, 1},
+    {TextId::TemperatureType, 2},
+    {TextId::RelayDcModule, 4},
+    {TextId::AudioInterface, 6},
+    {TextId::LumenzaModule, 11},
+});
+
 inline constexpr auto LightPickerTypes = std::to_array<PickerType>({
     {TextId::RelayModule, 0},
     {TextId::DimType, 1},
@@ -101,6 +110,10 @@ inline constexpr PickerVariant TimePicker{.types = TimePickerTypes,
 /// The light programmes of a master.
 inline constexpr PickerVariant LightPicker{.types = LightPickerTypes,
                                            .heading = TextId::LightModuleTypeHeading};
+
+/// The detectors of an alarm module, which is no target of its own.
+inline constexpr PickerVariant AlarmPicker{.types = AlarmPickerTypes,
+                                           .heading = TextId::ModuleTypeHeading};
 
 /// A list with its caption; both appear and disappear together.
 struct LabelledList {
@@ -138,7 +151,9 @@ class ActionPicker {
 
   /// Idle: letter and type empty, the letter to be picked, and all below hidden.
   void Reset();
-  /// The same with nothing to pick, and the type hidden as well.
+  /// The same with nothing to pick.
+  void Disable();
+  /// The same, and the type hidden as well.
   void Close();
 
   /// The three cells of the action that the fields make up, or none while one of them that its type

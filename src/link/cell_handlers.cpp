@@ -4,19 +4,12 @@
 #include <string_view>
 
 #include "link/read_table.h"
+#include "link/rx_line.h"
 #include "link/transfer.h"
 #include "session/language.h"
 
 namespace bkconf {
 namespace {
-
-/// The number in the characters `first` to `last` of the line, counted from 1; what the line does
-/// not have counts as nothing.
-int NumberAt(std::size_t first, std::size_t last) {
-  const std::string_view line = RxLine;
-  if (line.size() < first) return 0;
-  return LenientNumber(line.substr(first - 1, last - first + 1));
-}
 
 /// The character that selects the table on the lines of kinds 2 and 3.
 char TableDigit() {
@@ -52,9 +45,9 @@ void HandleTableLine() {
     return;
   }
   const ReadRow& row = *pending;
-  const int index = NumberAt(3, 5);
+  const int index = NumberInLine(3, 5);
   if (row.barMaximum > 0) Window.bar->Advance();
-  (*row.table)[index] = NumberAt(6, 8);
+  (*row.table)[index] = NumberInLine(6, 8);
   if (index != row.lastIndex) return;
   if (row.command == ReadBase) {
     FinishBaseRead();
@@ -89,9 +82,9 @@ constexpr int LastLiveTemperature = 71;
 void HandleTemperatureLine() {
   for (const TemperatureRow& row : TemperatureRows) {
     if (row.digit != TableDigit()) continue;
-    const int index = NumberAt(3, 5);
+    const int index = NumberInLine(3, 5);
     Window.bar->Advance();
-    (*row.table)[index] = NumberAt(6, 8);
+    (*row.table)[index] = NumberInLine(6, 8);
     if (row.cleared != nullptr) *row.cleared = 0;
     const bool live = row.table == &TempRoomIds && PendingCommand.Text() == Read3;
     if (live && !SentByUser()) Raise(LinkEvent::LiveTemperature);
@@ -129,8 +122,8 @@ constexpr std::array<DisplayRow, 6> DisplayRows = {{
 void HandleDisplayLine() {
   for (const DisplayRow& row : DisplayRows) {
     if (row.digit != TableDigit()) continue;
-    const int index = NumberAt(row.indexFrom, 5) - row.address;
-    (*row.table)[index] = NumberAt(6, 8);
+    const int index = NumberInLine(row.indexFrom, 5) - row.address;
+    (*row.table)[index] = NumberInLine(6, 8);
     Window.bar->Advance();
     if (index != row.lastIndex) return;
     if (row.table == &LcdHeader) {

@@ -2,10 +2,14 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "image/cell.h"
 
 namespace bkconf {
+
+/// What ends a line that goes out at once: LF and CR, in this order.
+inline constexpr std::string_view LineEnd = "\n\r";
 
 /// How a frame carries index and value. The widths differ on purpose: the modules read them so.
 enum class FrameForm {

@@ -17,6 +17,7 @@ enum class LinkEvent {
   TestLineReceived,        ///< a line of a live test stands in RxLine
   OutputsTestReady,        ///< the module took the command: the stop button may work
   ButtonTestReady,
+  LineTestReady,
   DetectorTestReady,
   TestEnded,     ///< the module ended a live test by itself
   ContextsRead,  ///< the table is complete and the window is free again

@@ -44,6 +44,7 @@ constexpr auto DispatchRows = std::to_array<DispatchRow>({
     {"M80000", OutputModules, false, {Test3}, Outcome::Continue, LinkEvent::OutputsTestReady},
     {"M80000", {}, true, {TestButtons}, Outcome::Continue, LinkEvent::ButtonTestReady},
     {"M80000", {5}, false, {Test3, Test4}, Outcome::Continue, LinkEvent::DetectorTestReady},
+    {"M80000", TestedModules, false, {TestLine}, Outcome::Continue, LinkEvent::LineTestReady},
     {"M80000", {}, true, AnyCommand, Outcome::Continue, std::nullopt},
     {"M70000", {}, true, AnyCommand, Outcome::StartWriting, std::nullopt},
     {"STOP", {9}, false, {Read1}, Outcome::EndMasterTable, LinkEvent::ContextsRead},

@@ -82,6 +82,12 @@ void StopLink() {
   for (Tick* tick : LinkTicks) tick->Disable();
 }
 
+void EndTest() {
+  StopLink();
+  Show(Window.status->caption, TextId::Ready);
+  UnlockWindow();
+}
+
 void LeaveTransfer() {
   StopLink();
   CloseRead();

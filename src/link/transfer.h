@@ -61,6 +61,9 @@ void UnlockWindow(std::optional<LinkEvent> told = std::nullopt);
 /// back. Then tells the screen that waits for it.
 void CloseRead(std::optional<LinkEvent> told = std::nullopt);
 
+/// The end of a live test: the link does nothing more, "Ready", and everything is given back.
+void EndTest();
+
 /// Ends what the link does at the moment, wherever it stands. The window is not touched.
 void StopLink();
 /// Leaves a transfer that cannot go on, as after a refused identity: no routine of the link runs

@@ -7,13 +7,7 @@ bool IsFree(const ProgramTable& programs, int slot) {
 }
 
 std::string ActionCodeOf(const ProgramTable& programs, int slot) {
-  const int cell = CellOf(programs, slot) + programs.action;
-  const Cell& target = programs.table[cell];
-  const Cell& index = programs.table[cell + 1];
-  if (target.Number() == ContextLetter) return ActionCode(target, index, 2);
-  const bool corvela = target.Number() == CorvelaLetter;
-  return ActionCode(target, index, programs.table[cell + 2],
-                    corvela ? ValueForm::OneBasedInBlocks : programs.form);
+  return ProgramActionCode(programs.table, CellOf(programs, slot) + programs.action, programs.form);
 }
 
 void DeleteSlot(const ProgramTable& programs, int slot) {

@@ -286,7 +286,7 @@ void ShowCaptions() {
            {&ButtonScreen.chooserLabel, TextId::ButtonChooser},
            {&ButtonScreen.firstGroup, TextId::FirstFunction},
            {&ButtonScreen.secondGroup, TextId::SecondFunction},
-           {&ButtonScreen.noSecond, TextId::NoSecondFunction},
+           {&ButtonScreen.noSecond, TextId::NoneChosen},
            {&ButtonScreen.store, TextId::StoreFunction},
            {&ButtonScreen.base, TextId::BaseFunctions},
            {&ButtonScreen.baseGroup, TextId::BaseFunctionsTitle},

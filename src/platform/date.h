@@ -1,4 +1,5 @@
-// A day of the calendar, and which one it is today. Calendar fields use it.
+// A day of the calendar and a moment of it, as the clock of the machine tells them. Calendars and
+// the live test of a master's clock use it.
 #pragma once
 
 #include <functional>
@@ -14,10 +15,23 @@ struct Date {
   friend bool operator==(const Date&, const Date&) = default;
 };
 
-/// Today, by the clock and the time zone of the machine.
-Date LocalToday();
+/// A second of a day.
+struct Moment {
+  Date date;
+  unsigned hour = 0;
+  unsigned minute = 0;
+  unsigned second = 0;
+  unsigned weekday = 0;  ///< Sunday is 1
+};
 
-/// What gives the day of today. Tests put their own in its place.
-inline std::function<Date()> Today = LocalToday;
+/// By the clock and the time zone of the machine.
+Moment LocalNow();
+
+/// What gives the moment that it is now. Tests put their own in its place.
+inline std::function<Moment()> Now = LocalNow;
+
+inline Date Today() {
+  return Now().date;
+}
 
 }  // namespace bkconf

@@ -2,7 +2,9 @@
 // them alike; the window mirrors them.
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,6 +34,15 @@ enum class FieldKind {
   Menu
 };
 
+/// What stands behind the text of a field.
+struct Colour {
+  std::uint8_t red = 0;
+  std::uint8_t green = 0;
+  std::uint8_t blue = 0;
+
+  friend bool operator==(const Colour&, const Colour&) = default;
+};
+
 /// What all fields have. A field adds itself to its screen's list, in the order of declaration, so
 /// it never moves. Texts are UTF-8.
 struct Field {
@@ -44,6 +55,7 @@ struct Field {
   const std::string name;  ///< stable and unique in its screen; also the widget's object name
   std::string caption;
   std::string toolTip;
+  std::optional<Colour> colour;  ///< none for what the window has by itself
   bool enabled = true;
   bool visible = true;
 };

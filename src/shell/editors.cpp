@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "diagnostics/diagnostics_screen.h"
 #include "master/context_screen.h"
 #include "master/light_program_screen.h"
 #include "master/module_page.h"
@@ -9,6 +10,7 @@
 #include "output/button_screen.h"
 #include "output/output_screen.h"
 #include "shell/action_buttons.h"
+#include "special/alarm_screen.h"
 
 namespace bkconf {
 namespace {
@@ -27,11 +29,13 @@ constexpr auto Openers = std::to_array<Opener>({
     {Action::TimePrograms, OpenTimeProgramScreen},
     {Action::LightPrograms, OpenLightProgramScreen},
     {Action::Configuration, OpenModulePage},
+    {Action::Detectors, OpenAlarmScreen},
+    {Action::Diagnostics, OpenDiagnosticsScreen},
 });
 
-constexpr auto Loaders =
-    std::to_array<void (*)()>({LoadButtonScreen, LoadOutputScreen, LoadContextScreen,
-                               LoadTimeProgramScreen, LoadLightProgramScreen});
+constexpr auto Loaders = std::to_array<void (*)()>(
+    {LoadButtonScreen, LoadOutputScreen, LoadContextScreen, LoadTimeProgramScreen,
+     LoadLightProgramScreen, LoadAlarmScreen, LoadDiagnosticsScreen});
 
 }  // namespace
 

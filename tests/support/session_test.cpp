@@ -5,6 +5,9 @@
 #include <memory>
 #include <stdexcept>
 
+#include "diagnostics/clock_panel.h"
+#include "diagnostics/detector_panel.h"
+#include "diagnostics/diagnostics_screen.h"
 #include "image/tables.h"
 #include "link/link_ticks.h"
 #include "link/transfer.h"
@@ -19,6 +22,7 @@
 #include "shell/menus.h"
 #include "shell/open_dialog.h"
 #include "shell/save_dialog.h"
+#include "special/alarm_screen.h"
 
 namespace bkconf {
 namespace {
@@ -51,6 +55,8 @@ void ResetGlobals() {
   MakeAnew(ContextScreen);
   MakeAnew(TimeProgramScreen);
   MakeAnew(LightProgramScreen);
+  MakeAnew(AlarmScreen);
+  MakeAnew(DiagnosticsScreen);
 }
 
 void DisableTicks() {
@@ -58,6 +64,10 @@ void DisableTicks() {
   SettingsRetry.Disable();
   UpgradeHandOff.Disable();
   FolderRetry.Disable();
+  AlarmNote.Disable();
+  PcClock.Disable();
+  ClockSend.Disable();
+  DetectorUpdate.Disable();
 }
 
 }  // namespace

@@ -55,6 +55,19 @@ std::string Conversation::StartWrite(std::string_view command) {
   return RunUntil("\r", second);
 }
 
+void Conversation::Stop() {
+  for (int i = 0; i < 50; ++i) {
+    Send(stopFrame);
+  }
+}
+
+Memory MemoryOfVersion(int kind, int version) {
+  Memory memory = DefaultMemory(kind, 1);
+  const FixedCell cell = VersionCellOf(kind);
+  memory.Cells(cell.table).at(static_cast<std::size_t>(cell.cell)) = version;
+  return memory;
+}
+
 std::vector<std::string> LinesOf(std::string_view text) {
   std::vector<std::string> lines;
   while (!text.empty()) {

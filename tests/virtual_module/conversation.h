@@ -14,6 +14,7 @@ namespace virtual_module {
 
 inline constexpr std::int64_t millisecond = 1000;
 inline constexpr std::int64_t second = 1000000;
+inline constexpr std::string_view stopFrame = "T99999\n\r";
 inline constexpr int everyKind[] = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 11};
 
 class Conversation {
@@ -38,6 +39,12 @@ class Conversation {
   // Wakes the module, sends a write command and gives the acknowledgement.
   std::string StartWrite(std::string_view command);
 
+  // Wakes the module, sends the command of a live test and gives the acknowledgement.
+  std::string StartTest(std::string_view command) { return StartWrite(command); }
+
+  // Fifty stops without a pause.
+  void Stop();
+
   Module module;
   std::int64_t now = 0;
   std::int64_t lastCharacter = 0;  // when the last character of the module was handed out
@@ -45,6 +52,9 @@ class Conversation {
 
 // The lines of a text without their CR; what stands behind the last CR is a line as well.
 std::vector<std::string> LinesOf(std::string_view text);
+
+// A default memory of seed 1 with another version.
+Memory MemoryOfVersion(int kind, int version);
 
 // `number` with leading zeros.
 std::string Digits(int number, int width);

@@ -1,202 +1,32 @@
-// The program on a real pseudo-terminal, driven as the tool drives it. Every wait has a deadline.
+// The program on a real pseudo-terminal, driven as the tool drives it.
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <poll.h>
-#include <sys/inotify.h>
 #include <sys/ioctl.h>
-#include <sys/wait.h>
-#include <termios.h>
 #include <unistd.h>
 
-#include <array>
 #include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "virtual_module/conversation.h"
 #include "virtual_module/memory.h"
+#include "virtual_module/program.h"
 
 namespace virtual_module {
 namespace {
 
 namespace fs = std::filesystem;
-using SteadyTime = std::chrono::steady_clock::time_point;
-
-constexpr std::chrono::seconds patience(20);
-constexpr std::string_view noEnding = "\x01";  // the program never prints it
-
-SteadyTime Deadline() {
-  return std::chrono::steady_clock::now() + patience;
-}
-
-// Reads one character at a time until the text ends in `ending`, the other end is gone or the
-// deadline has passed.
-std::string ReadUntil(int descriptor, std::string_view ending) {
-  const SteadyTime deadline = Deadline();
-  std::string text;
-  while (!text.ends_with(ending)) {
-    const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(
-        deadline - std::chrono::steady_clock::now());
-    pollfd waiting{.fd = descriptor, .events = POLLIN, .revents = 0};
-    char character = 0;
-    if (left.count() <= 0 || poll(&waiting, 1, static_cast<int>(left.count())) <= 0 ||
-        read(descriptor, &character, 1) != 1) {
-      break;
-    }
-    text += character;
-  }
-  return text;
-}
-
-struct Outcome {
-  int status = -1;  // of the exit
-  std::string output;
-  std::string errors;
-};
-
-class Program {
- public:
-  explicit Program(const std::vector<std::string>& words) {
-    std::array<int, 2> output{};
-    std::array<int, 2> errors{};
-    EXPECT_EQ(pipe2(output.data(), O_CLOEXEC), 0);
-    EXPECT_EQ(pipe2(errors.data(), O_CLOEXEC), 0);
-    std::vector<std::string> copies = {VIRTUAL_MODULE_PROGRAM};
-    copies.insert(copies.end(), words.begin(), words.end());
-    std::vector<char*> arguments;
-    for (std::string& word : copies) {
-      arguments.push_back(word.data());
-    }
-    arguments.push_back(nullptr);
-    process_ = fork();
-    if (process_ == 0) {
-      dup2(output[1], STDOUT_FILENO);
-      dup2(errors[1], STDERR_FILENO);
-      execv(arguments[0], arguments.data());
-      _exit(127);
-    }
-    close(output[1]);
-    close(errors[1]);
-    output_ = output[0];
-    errors_ = errors[0];
-  }
-  ~Program() {
-    if (process_ > 0) {
-      kill(process_, SIGKILL);
-      waitpid(process_, nullptr, 0);
-    }
-    close(output_);
-    close(errors_);
-  }
-  Program(const Program&) = delete;
-  Program& operator=(const Program&) = delete;
-
-  std::string FirstLine() const { return ReadUntil(output_, "\n"); }
-  void Signal(int signal) const { kill(process_, signal); }
-
-  // Waits for the end; its output closes then.
-  Outcome End() {
-    Outcome outcome;
-    outcome.output = ReadUntil(output_, noEnding);
-    outcome.errors = ReadUntil(errors_, noEnding);
-    int status = 0;
-    waitpid(std::exchange(process_, -1), &status, 0);
-    outcome.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    return outcome;
-  }
-
- private:
-  pid_t process_ = -1;
-  int output_ = -1;
-  int errors_ = -1;
-};
-
-// The serial port as a tool opens it: raw, for itself alone.
-class Port {
- public:
-  explicit Port(const fs::path& path) : descriptor_(open(path.c_str(), O_RDWR | O_NOCTTY)) {
-    termios modes{};
-    tcgetattr(descriptor_, &modes);
-    cfmakeraw(&modes);
-    tcsetattr(descriptor_, TCSANOW, &modes);
-    ioctl(descriptor_, TIOCEXCL);
-  }
-  ~Port() { close(descriptor_); }
-  Port(const Port&) = delete;
-  Port& operator=(const Port&) = delete;
-
-  bool IsOpen() const { return descriptor_ >= 0; }
-  void Write(std::string_view text) const {
-    EXPECT_EQ(write(descriptor_, text.data(), text.size()), static_cast<ssize_t>(text.size()));
-  }
-  std::string Until(std::string_view ending) const { return ReadUntil(descriptor_, ending); }
-
-  std::string Wake() const {
-    tcflush(descriptor_, TCIFLUSH);
-    Until("M");
-    for (int i = 0; i < 22; ++i) {
-      Write("D");
-    }
-    tcflush(descriptor_, TCIFLUSH);
-    return Until("\r");
-  }
-
- private:
-  int descriptor_;
-};
-
-std::string TextOfFile(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
-
-// Waits until a file that is being written holds the text.
-bool WaitForText(const fs::path& path, std::string_view text) {
-  const SteadyTime deadline = Deadline();
-  const int changes = inotify_init1(IN_CLOEXEC);
-  inotify_add_watch(changes, path.c_str(), IN_MODIFY);
-  bool found = TextOfFile(path).find(text) != std::string::npos;
-  while (!found) {
-    const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(
-        deadline - std::chrono::steady_clock::now());
-    pollfd waiting{.fd = changes, .events = POLLIN, .revents = 0};
-    std::array<char, 4096> events{};
-    if (left.count() <= 0 || poll(&waiting, 1, static_cast<int>(left.count())) <= 0 ||
-        read(changes, events.data(), events.size()) <= 0) {
-      break;
-    }
-    found = TextOfFile(path).find(text) != std::string::npos;
-  }
-  close(changes);
-  return found;
-}
-
-class ProgramTest : public testing::Test {
- protected:
-  void SetUp() override {
-    const auto* test = testing::UnitTest::GetInstance()->current_test_info();
-    directory_ = fs::temp_directory_path() / (std::string("bkconf-program-") + test->name());
-    fs::remove_all(directory_);
-    fs::create_directories(directory_);
-  }
-  void TearDown() override { fs::remove_all(directory_); }
-
-  std::string Path(const char* name) const { return (directory_ / name).string(); }
-  std::string TextOf(const char* name) const { return TextOfFile(directory_ / name); }
-
-  fs::path directory_;
-};
 
 TEST_F(ProgramTest, ItsMemoryIsReadAndWrittenOverAPort) {
   SaveImage(DefaultMemory(2, 5), Path("start.BK1"));
   Program program({"--kind", "2", "--link", Path("com1"), "--image", Path("start.BK1"), "--save",
                    Path("end.BK1"), "--log", Path("line.txt")});
-  ASSERT_EQ(program.FirstLine(), "ready " + Path("com1") + "\n");
+  ASSERT_EQ(program.Line(), "ready " + Path("com1") + "\n");
   Memory wanted = LoadImage(Path("start.BK1"));
   const std::vector<int>& header = wanted.Cells("TempHeader");
   {
@@ -228,7 +58,7 @@ TEST_F(ProgramTest, ItsMemoryIsReadAndWrittenOverAPort) {
 
 TEST_F(ProgramTest, TheWholeMemoryOfARelayModuleArrivesAtThePaceOfTheLine) {
   Program program({"--kind", "0", "--link", Path("com1"), "--seed", "9"});
-  program.FirstLine();
+  program.Line();
   const Port port(Path("com1"));
   port.Wake();
   const SteadyTime start = std::chrono::steady_clock::now();
@@ -246,7 +76,7 @@ TEST_F(ProgramTest, TheWholeMemoryOfARelayModuleArrivesAtThePaceOfTheLine) {
 
 TEST_F(ProgramTest, AToolThatReadsLateLosesNothingOfAnAnswer) {
   Program program({"--kind", "7", "--link", Path("com1"), "--log", Path("line.txt")});
-  program.FirstLine();
+  program.Line();
   const Port port(Path("com1"));
   port.Wake();
   port.Write("T80000\r");
@@ -259,7 +89,7 @@ TEST_F(ProgramTest, AToolThatReadsLateLosesNothingOfAnAnswer) {
 
 TEST_F(ProgramTest, TheNextToolOpensThePortThatOneHadForItself) {
   Program program({"--kind", "7", "--link", Path("com1")});
-  program.FirstLine();
+  program.Line();
   for (int turn = 0; turn < 3; ++turn) {
     const Port port(Path("com1"));
     ASSERT_TRUE(port.IsOpen());
@@ -276,7 +106,7 @@ TEST_F(ProgramTest, TheNextToolOpensThePortThatOneHadForItself) {
 
 TEST_F(ProgramTest, OldPollsDoNotPileUpWhileNobodyReads) {
   Program program({"--kind", "0", "--link", Path("com1")});
-  program.FirstLine();
+  program.Line();
   const Port port(Path("com1"));
   const int descriptor = open(Path("com1").c_str(), O_RDWR | O_NOCTTY);
   pollfd waiting{.fd = descriptor, .events = POLLIN, .revents = 0};
@@ -291,7 +121,7 @@ TEST_F(ProgramTest, OldPollsDoNotPileUpWhileNobodyReads) {
 
 TEST_F(ProgramTest, AVanishedPortIsGoneUntilTheSignalThatEndsTheProgram) {
   Program program({"--kind", "6", "--link", Path("com1"), "--fault", "vanish-in-read"});
-  program.FirstLine();
+  program.Line();
   const Port port(Path("com1"));
   EXPECT_EQ(port.Wake(), "DISPL6\r");
   port.Write("T80000\r");
@@ -307,7 +137,7 @@ TEST_F(ProgramTest, ALinkIsReplacedAndAFileIsNot) {
   fs::create_symlink("/nowhere", directory_ / "com1");
   {
     Program program({"--kind", "0", "--link", Path("com1")});
-    EXPECT_EQ(program.FirstLine(), "ready " + Path("com1") + "\n");
+    EXPECT_EQ(program.Line(), "ready " + Path("com1") + "\n");
     EXPECT_NE(fs::read_symlink(directory_ / "com1"), "/nowhere");
     program.Signal(SIGHUP);
     EXPECT_EQ(program.End().status, 0);
@@ -322,9 +152,9 @@ TEST_F(ProgramTest, ALinkIsReplacedAndAFileIsNot) {
 
 TEST_F(ProgramTest, TwoModulesTakeTurnsAtALinkWithoutRemovingEachOthers) {
   Program first({"--kind", "0", "--link", Path("com1")});
-  first.FirstLine();
+  first.Line();
   Program second({"--kind", "1", "--link", Path("com1")});
-  second.FirstLine();
+  second.Line();
   first.Signal(SIGTERM);
   EXPECT_EQ(first.End().status, 0);
   const Port port(Path("com1"));

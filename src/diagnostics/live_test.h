@@ -1,0 +1,42 @@
+// How a live test runs: the command that starts it, what the user sees meanwhile, and its end. The
+// panels of the screen have one each.
+#pragma once
+
+#include <string_view>
+
+#include "platform/field.h"
+#include "text/text.h"
+
+namespace bkconf {
+
+/// One kind of test.
+struct LiveTest {
+  std::string_view command;
+  TextId running;  ///< the status while it runs
+  int steps;       ///< the end of the bar; 0 for a test without one
+  ButtonField* stop;
+  void (*takeLine)();  ///< a line of the module stands in RxLine
+  void (
+      *accepted)();  ///< the module took the command; null where only the stop button waits for it
+  void (*sendStop)();  ///< tells the module to end; null where it ends by itself
+  void (*ended)();     ///< what only a running test lets be used is put back; null where nothing is
+};
+
+/// The test that runs, or null. Exactly while there is one, nothing else can be chosen.
+inline const LiveTest* RunningTest = nullptr;
+
+/// Asks the module for the test; its lines come from then on.
+void StartTest(const LiveTest& test);
+/// What a stop button does: tells the module, and ends the test without waiting for an answer.
+void StopRunningTest();
+
+/// Moves the bar of the screen. At its end it begins anew, since some tests have none.
+void AdvanceTestBar();
+
+/// "T99999" fifty times without a pause: a module that is busy with its test misses some.
+void SendStop();
+
+/// Handlers for what the link tells of tests, once at start-up.
+void LoadLiveTests();
+
+}  // namespace bkconf

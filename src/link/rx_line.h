@@ -1,0 +1,25 @@
+// Reading the characters of the line that has come from a module, counted from 1. The cell handlers
+// and the live tests use it.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+#include "image/cell.h"
+#include "session/state.h"
+
+namespace bkconf {
+
+/// The characters `first` to `last` of RxLine, as far as it has them.
+inline std::string_view CharactersOfLine(std::size_t first, std::size_t last) {
+  const std::string_view line = RxLine;
+  return line.size() < first ? std::string_view() : line.substr(first - 1, last - first + 1);
+}
+
+/// The number in those characters, up to the first that is no digit; what the line does not have
+/// counts as nothing.
+inline int NumberInLine(std::size_t first, std::size_t last) {
+  return LenientNumber(CharactersOfLine(first, last));
+}
+
+}  // namespace bkconf
