@@ -91,7 +91,7 @@ void MasterStage::Begin() {
   ApplyStyle(*qApp);
   Language = qEnvironmentVariableIntValue("BKCONF_TEST_LANGUAGE");
   QVERIFY(Language.Number() == Dutch || Language.Number() == French);
-  Today = [] { return Date{2024, 2, 29}; };
+  Now = [] { return Moment{.date = {2024, 2, 29}}; };
   main_ = MakeWindows();
   RunEvent(LoadMainWindow);
   QVERIFY(QTest::qWaitForWindowExposed(main_.get()));
