@@ -39,6 +39,15 @@ int HourOf(const ListField& list) {
   return Cell(list.Text()).Whole();
 }
 
+void EnablePeriod(PeriodFields& period, bool open) {
+  const bool hours = open && !period.none.checked;
+  period.label.enabled = period.none.enabled = open;
+  for (Field* field : std::initializer_list<Field*>{&period.fromLabel, &period.from,
+                                                    &period.toLabel, &period.to}) {
+    field->enabled = hours;
+  }
+}
+
 bool IsReversed(const PeriodFields& period) {
   if (period.from.Text().empty() || period.to.Text().empty()) return false;
   return HourOf(period.from) >= HourOf(period.to);
@@ -136,12 +145,11 @@ void ConditionFields::EnableFields() {
   const bool first = some && !periods[0].none.checked;
   noCondition.enabled = open_;
   lightGroup.visible = timeGroup.visible = !noCondition.checked;
+  both.visible = either.visible = !noCondition.checked;
   noLight.enabled = some;
-  level.enabled = some && !noLight.checked;
-  periods[0].none.enabled = some;
-  periods[0].from.enabled = periods[0].to.enabled = first;
-  periods[1].none.enabled = first;
-  periods[1].from.enabled = periods[1].to.enabled = first && !periods[1].none.checked;
+  level.enabled = levelLabel.enabled = some && !noLight.checked;
+  EnablePeriod(periods[0], some);
+  EnablePeriod(periods[1], first);
   both.enabled = either.enabled = first && !noLight.checked;
 }
 

@@ -13,7 +13,7 @@ ProgramScreenTest::ProgramScreenTest(WhichList which)
       dirty(light ? MasterLightDirty : MasterTimeDirty),
       slots(light ? 200 : 110),
       slotSize(light ? 5 : 9) {
-  Today = [this] { return today; };
+  Now = [this] { return Moment{.date = today}; };
 }
 
 void ProgramScreenTest::Open(const std::vector<Slot>& list, int language) {

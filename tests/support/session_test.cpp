@@ -16,6 +16,7 @@
 #include "master/time_program_screen.h"
 #include "output/button_screen.h"
 #include "output/output_screen.h"
+#include "platform/date.h"
 #include "session/settings.h"
 #include "shell/directory_picker.h"
 #include "shell/directory_screen.h"
@@ -41,6 +42,7 @@ void ResetGlobals() {
   for (const Flag& flag : StartUpFlags) *flag.cell = Cell();
   for (const Flag& flag : SessionValues) *flag.cell = Cell();
   ActiveModuleType = NoModule;
+  Now = LocalNow;
   RxLine.clear();
   TransferUnderWay = false;
   LinkHandlers = {};

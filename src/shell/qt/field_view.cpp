@@ -12,6 +12,7 @@
 #include "shell/qt/option_view.h"
 #include "shell/qt/picture_view.h"
 #include "shell/qt/progress_view.h"
+#include "shell/qt/style.h"
 #include "shell/qt/text_view.h"
 
 namespace bkconf {
@@ -36,8 +37,23 @@ void WidgetView::Refresh() {
 }
 
 QString WidgetView::SpokenName() const {
-  if (!field_.caption.empty()) return ToQt(field_.caption).trimmed();
-  return label_ == nullptr ? QString() : ToQt(label_->caption).trimmed();
+  // In some captions blanks stand for the field that is shown there.
+  if (!field_.caption.empty()) return ToQt(field_.caption).simplified();
+  return label_ == nullptr ? QString() : ToQt(label_->caption).simplified();
+}
+
+void WidgetView::PushColour(QPalette::ColorRole behind, QPalette::ColorRole text) {
+  if (colour_ == field_.colour) return;
+  if (!colour_) plain_ = widget_->palette();
+  colour_ = field_.colour;
+  if (!colour_) {
+    widget_->setPalette(plain_);
+    return;
+  }
+  QPalette palette = plain_;
+  palette.setColor(behind, QColor(colour_->red, colour_->green, colour_->blue));
+  for (const auto role : {text, QPalette::PlaceholderText}) WriteOnColour(palette, role);
+  widget_->setPalette(palette);
 }
 
 std::unique_ptr<WidgetView> MakeView(Field& field, QWidget* parent) {

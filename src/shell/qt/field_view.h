@@ -2,9 +2,11 @@
 // refreshes them.
 #pragma once
 
+#include <QPalette>
 #include <QString>
 #include <QWidget>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -53,10 +55,15 @@ class WidgetView : public FieldView {
   virtual bool Enabled() const { return field_.enabled; }
   /// What a screen reader says: the caption, or the text of the label.
   virtual QString SpokenName() const;
+  /// Paints the colour of the field in the one role, and what is written on it in the other. For
+  /// the kinds that show a colour.
+  void PushColour(QPalette::ColorRole behind, QPalette::ColorRole text);
 
  private:
   const Field& field_;
   QWidget* widget_;
+  std::optional<Colour> colour_;
+  QPalette plain_;  ///< what the widget has without a colour
   const Field* label_ = nullptr;
   std::string toolTip_;
 };

@@ -1,5 +1,8 @@
 #include "shell/qt/group_view.h"
 
+#include "shell/qt/label_view.h"
+#include "shell/qt/style.h"
+
 namespace bkconf {
 
 GroupView::GroupView(GroupField& field, QWidget* parent)
@@ -9,11 +12,26 @@ GroupView::GroupView(GroupField& field, QWidget* parent)
   box_->setFlat(true);
 }
 
+QWidget& GroupView::WrapCaption() {
+  wrapped_ = new FittingLabel(box_);
+  wrapped_->setTextFormat(Qt::PlainText);
+  wrapped_->Wrap();
+  MakeBold(*wrapped_);
+  PushCaption();
+  return *wrapped_;
+}
+
 void GroupView::Push() {
   if (caption_ == field_.caption) return;
   caption_ = field_.caption;
-  box_->setTitle(ToQt(caption_));
-  box_->setFlat(caption_.empty());
+  PushCaption();
+}
+
+void GroupView::PushCaption() {
+  const QString caption = ToQt(caption_);
+  if (wrapped_ != nullptr) wrapped_->setText(caption);
+  box_->setTitle(wrapped_ == nullptr ? caption : QString());
+  box_->setFlat(caption.isEmpty());
 }
 
 }  // namespace bkconf

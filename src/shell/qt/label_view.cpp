@@ -12,6 +12,15 @@
 namespace bkconf {
 namespace {
 
+/// Of the box around a value, in device-independent pixels.
+constexpr int BoxPadding = 8;
+constexpr int BoxPaddingAbove = 4;
+constexpr double BoxRadius = 3;
+/// Of average width, that a box has room for whatever stands in it.
+constexpr int BoxCharacters = 8;
+/// What stands in a caption for the field that is shown there.
+constexpr QLatin1String Blanks("  ");
+
 class CaptionLabel : public FittingLabel {
  public:
   CaptionLabel(const LabelField& field, QWidget* parent) : FittingLabel(parent), field_(field) {}
@@ -73,16 +82,33 @@ void FittingLabel::KeepLines(int lines) {
   setFixedHeight(lines * fontMetrics().lineSpacing());
 }
 
+void FittingLabel::SetBoxed(bool boxed) {
+  if (boxed_ == boxed) return;
+  boxed_ = boxed;
+  if (boxed) {
+    setContentsMargins(BoxPadding, BoxPaddingAbove, BoxPadding, BoxPaddingAbove);
+  } else {
+    setContentsMargins({});
+  }
+  updateGeometry();
+}
+
+QSize FittingLabel::Boxed(QSize size) const {
+  if (!boxed_) return size;
+  return size.expandedTo({BoxCharacters * fontMetrics().averageCharWidth() + 2 * BoxPadding,
+                          fontMetrics().lineSpacing() + 2 * BoxPaddingAbove});
+}
+
 QSize FittingLabel::sizeHint() const {
   if (wrapped_) return minimumSizeHint();
-  return shortened_ ? Width(48, QLabel::sizeHint()) : QLabel::sizeHint();
+  return shortened_ ? Width(48, QLabel::sizeHint()) : Boxed(QLabel::sizeHint());
 }
 
 QSize FittingLabel::minimumSizeHint() const {
   const bool keepsLines = minimumHeight() == maximumHeight();
   if (keepsLines) return {minimumWidth(), minimumHeight()};
   if (wrapped_) return {minimumWidth(), heightForWidth(minimumWidth())};
-  return shortened_ ? Width(12, QLabel::minimumSizeHint()) : QLabel::minimumSizeHint();
+  return shortened_ ? Width(12, QLabel::minimumSizeHint()) : Boxed(QLabel::minimumSizeHint());
 }
 
 /// The width is that of so many characters, whatever the text: it changes with every directory.
@@ -103,7 +129,17 @@ bool FittingLabel::event(QEvent* event) {
   return true;
 }
 
+void FittingLabel::PaintBox() {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QColor colour = palette().color(backgroundRole());
+  painter.setBrush(colour);
+  painter.setPen(colour.darker(140));
+  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), BoxRadius, BoxRadius);
+}
+
 void FittingLabel::paintEvent(QPaintEvent* event) {
+  if (boxed_) PaintBox();
   if (!shortened_) {
     QLabel::paintEvent(event);
     return;
@@ -116,16 +152,36 @@ void FittingLabel::paintEvent(QPaintEvent* event) {
 LabelView::LabelView(LabelField& field, QWidget* parent)
     : WidgetView(field, new CaptionLabel(field, parent)),
       field_(field),
-      label_(static_cast<QLabel*>(Widget())) {
+      label_(static_cast<FittingLabel*>(Widget())) {
   // What a module or a file holds is never markup.
   label_->setTextFormat(Qt::PlainText);
 }
 
+QWidget& LabelView::SplitOff() {
+  rest_ = new QLabel(label_->parentWidget());
+  rest_->setTextFormat(Qt::PlainText);
+  PushText();
+  return *rest_;
+}
+
 void LabelView::Push() {
   PushDoubleClick();
+  PushColour(QPalette::Window, QPalette::WindowText);
+  label_->SetBoxed(field_.colour.has_value());
+  if (rest_ != nullptr) {
+    rest_->setEnabled(field_.enabled);
+    rest_->setVisible(field_.visible);
+  }
   if (caption_ == field_.caption) return;
   caption_ = field_.caption;
-  label_->setText(ToQt(caption_));
+  PushText();
+}
+
+void LabelView::PushText() {
+  const QString text = ToQt(caption_);
+  const auto blanks = rest_ == nullptr ? -1 : text.indexOf(Blanks);
+  label_->setText(text.left(blanks));
+  if (rest_ != nullptr) rest_->setText(blanks < 0 ? QString() : text.mid(blanks).trimmed());
 }
 
 void LabelView::PushDoubleClick() {

@@ -1,5 +1,5 @@
-// The view of a label: plain text. One that a double click does something with can also
-// be reached by keyboard. Made by MakeView.
+// The view of a label: plain text, in a box where the field has a colour. One that a double click
+// does something with can also be reached by keyboard. Made by MakeView.
 #pragma once
 
 #include <QLabel>
@@ -7,21 +7,6 @@
 #include "shell/qt/field_view.h"
 
 namespace bkconf {
-
-class LabelView : public WidgetView {
- public:
-  LabelView(LabelField& field, QWidget* parent);
-
- protected:
-  void Push() override;
-
- private:
-  void PushDoubleClick();
-
-  LabelField& field_;
-  QLabel* label_;
-  std::string caption_;
-};
 
 /// A label that can be told to fit into the width that there is.
 class FittingLabel : public QLabel {
@@ -35,6 +20,8 @@ class FittingLabel : public QLabel {
   void Wrap();
   /// Wraps, and keeps the height of so many lines whatever its text is.
   void KeepLines(int lines);
+  /// Stands in a box of the palette's colour, or in none: a value that is read, not typed.
+  void SetBoxed(bool boxed);
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
@@ -46,9 +33,33 @@ class FittingLabel : public QLabel {
  private:
   QString Fitting() const;
   QSize Width(int characters, QSize whole) const;
+  QSize Boxed(QSize size) const;
+  void PaintBox();
 
   bool shortened_ = false;
   bool wrapped_ = false;
+  bool boxed_ = false;
+};
+
+class LabelView : public WidgetView {
+ public:
+  LabelView(LabelField& field, QWidget* parent);
+
+  /// Splits the caption at its first blanks, where another field is to stand, and gives a label of
+  /// what comes after them. To be called once.
+  QWidget& SplitOff();
+
+ protected:
+  void Push() override;
+
+ private:
+  void PushDoubleClick();
+  void PushText();
+
+  LabelField& field_;
+  FittingLabel* label_;
+  QLabel* rest_ = nullptr;  ///< of a caption that is split
+  std::string caption_;
 };
 
 }  // namespace bkconf

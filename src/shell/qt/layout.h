@@ -15,25 +15,28 @@ enum class Look {
   Primary,   ///< a button: what the screen is there for
   Heading,   ///< a label: stands out from the text around it
   Path,      ///< a label: takes no more width than there is, and leaves out its middle
-  Wrapped,   ///< a label: takes as many lines as it needs
+  Wrapped,   ///< a label, or the caption of a frame: takes as many lines as it needs
   Sentence,  ///< a label: has room for two lines, whatever it says
-  Tall,      ///< a box to tick: as tall as the lists beside it
+  Tall,      ///< a box to tick, or a value: as tall as the lists beside it
+  Low,       ///< a list: no taller than its text asks for
+  Newest,    ///< a list box: its last item stays in view when items are added
 };
 
 enum class PartKind {
-  Item,    ///< one field
-  Row,     ///< parts side by side
-  Column,  ///< parts one below the other
-  Form,    ///< lines of a label and what it names, aligned with each other
-  Line,    ///< a line of a form: a field, and parts to its right
-  Below,   ///< a field, and close above it the label that names it
-  Frame,   ///< a group field around one part
-  Tiles,   ///< equal parts in some columns; hidden ones leave no hole
-  Inside,  ///< an option, and a list in place of the blanks that its caption begins with
-  Pile,    ///< parts in the same place, of which one is shown at a time
-  Cover,   ///< two parts in the same place: one, and another that lies over it now and then
-  Rule,    ///< a thin line across
-  Space,   ///< empty room that takes what is left over
+  Item,     ///< one field
+  Row,      ///< parts side by side
+  Column,   ///< parts one below the other
+  Form,     ///< lines of a label and what it names, aligned with each other
+  Line,     ///< a line of a form: a field, and parts to its right
+  Below,    ///< a field, and close above it the label that names it
+  Frame,    ///< a group field around one part
+  Tiles,    ///< equal parts in some columns; hidden ones leave no hole
+  Columns,  ///< rows whose parts stand in columns
+  Inside,   ///< a field in place of blanks: those that an option begins with, or within a label
+  Pile,     ///< parts in the same place, of which one is shown at a time
+  Cover,    ///< two parts in the same place: one, and another that lies over it now and then
+  Rule,     ///< a thin line across
+  Space,    ///< empty room that takes what is left over
 };
 
 /// Fields of a part are placed, and visited with the tabulator key, in the order in which they are
@@ -92,9 +95,22 @@ inline Part Hidable(std::string_view group, Part content) {
 inline Part Tiles(int columns, std::vector<Part> parts) {
   return {.kind = PartKind::Tiles, .parts = std::move(parts), .columns = columns};
 }
-/// An option, and a list in place of the blanks that its caption begins with.
-inline Part Inside(std::string_view option, std::string_view list) {
-  return {.kind = PartKind::Inside, .field = std::string(list), .label = std::string(option)};
+/// Rows of fields, close to each other, in columns. A row whose fields are all hidden leaves no
+/// hole.
+inline Part Columns(std::vector<Part> rows) {
+  return {.kind = PartKind::Columns, .parts = std::move(rows)};
+}
+/// A list in place of the blanks that the caption of an option begins with, or that a label has
+/// between its words.
+inline Part Inside(std::string_view caption, std::string_view list) {
+  return {.kind = PartKind::Inside, .field = std::string(list), .label = std::string(caption)};
+}
+/// A frame whose caption takes as many lines as it needs, at a width of so many characters.
+inline Part WrappedFrame(int characters, std::string_view group, Part content) {
+  Part part = Frame(group, std::move(content));
+  part.look = Look::Wrapped;
+  part.characters = characters;
+  return part;
 }
 /// Parts in the same place, from its top on. The logic shows the fields of one of them at a time.
 inline Part Pile(std::vector<Part> parts) {

@@ -4,6 +4,9 @@
 #include <QLabel>
 #include <QScopedValueRollback>
 
+#include "shell/qt/group_view.h"
+#include "shell/qt/label_view.h"
+#include "shell/qt/list_box_view.h"
 #include "shell/qt/option_view.h"
 #include "shell/qt/style.h"
 #include "shell/qt/tile_layout.h"
@@ -56,8 +59,11 @@ QLayout* LayoutBuilder::Build(const Part& part) {
       return BuildLine(part);
     case PartKind::Below:
       return BuildBelow(part);
+    case PartKind::Columns:
+      return BuildColumns(part);
     case PartKind::Inside:
-      return BuildInside(part);
+      return find_(part.label).Shown().kind == FieldKind::Label ? BuildAmid(part)
+                                                                : BuildInside(part);
     case PartKind::Pile:
       return BuildPile(part);
     case PartKind::Item:
@@ -102,6 +108,7 @@ void LayoutBuilder::Add(const Part& part, QBoxLayout& box) {
     case PartKind::Line:
     case PartKind::Below:
     case PartKind::Tiles:
+    case PartKind::Columns:
     case PartKind::Inside:
     case PartKind::Pile:
       box.addLayout(Build(part), part.share);
@@ -124,7 +131,10 @@ QLayout* LayoutBuilder::BuildForm(const Part& part) {
 }
 
 QLayout* LayoutBuilder::BuildLine(const Part& line) {
-  std::vector<Part> parts = {Labelled(line.label, line.field)};
+  Part field = Labelled(line.label, line.field);
+  field.look = line.look;
+  field.characters = line.characters;
+  std::vector<Part> parts = {std::move(field)};
   parts.insert(parts.end(), line.parts.begin(), line.parts.end());
   parts.push_back(Space());
   return BuildBox(Row(std::move(parts)));
@@ -146,6 +156,33 @@ QLayout* LayoutBuilder::BuildInside(const Part& part) {
   auto* box = new QVBoxLayout;
   box->addWidget(option);
   return box;
+}
+
+/// The words of a label before the blanks, the list, and the words after them.
+QLayout* LayoutBuilder::BuildAmid(const Part& part) {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(TightSpacing);
+  row->addWidget(Place(Item(part.label)));
+  row->addWidget(Place(Wide(part.characters, Labelled(part.label, part.field))));
+  QWidget& rest = static_cast<LabelView&>(find_(part.label)).SplitOff();
+  if (keeping_) KeepRoom(rest);
+  row->addWidget(&rest);
+  return row;
+}
+
+QLayout* LayoutBuilder::BuildColumns(const Part& part) {
+  auto* table = new QGridLayout;
+  table->setHorizontalSpacing(Spacing);
+  table->setVerticalSpacing(LabelSpacing);
+  for (int row = 0; const Part& line : part.parts) {
+    for (int column = 0; const Part& cell : line.parts) {
+      table->addWidget(Place(cell), row, column);
+      ++column;
+    }
+    ++row;
+  }
+  table->setColumnStretch(table->columnCount(), 1);
+  return table;
 }
 
 QLayout* LayoutBuilder::BuildPile(const Part& part) {
@@ -177,11 +214,13 @@ QLayout* LayoutBuilder::BuildCover(const Part& part) {
 }
 
 QWidget* LayoutBuilder::BuildFrame(const Part& part) {
-  QWidget* frame = find_(part.field).Widget();
+  WidgetView& view = find_(part.field);
+  QWidget* frame = view.Widget();
   if (keeping_) KeepRoom(*frame);
   // What is in it comes and goes within the room that is kept.
   const QScopedValueRollback<bool> keeping(keeping_, false);
-  QLayout* content = Build(part.parts.front());
+  QLayout* content =
+      part.look == Look::Wrapped ? BuildBelowCaption(part, view) : Build(part.parts.front());
   const int margin = part.tight ? 0 : FrameMargin;
   content->setContentsMargins(margin, margin, margin, margin);
   frame->setLayout(content);
@@ -190,11 +229,23 @@ QWidget* LayoutBuilder::BuildFrame(const Part& part) {
   return frame;
 }
 
+QLayout* LayoutBuilder::BuildBelowCaption(const Part& frame, WidgetView& group) {
+  QWidget& caption = static_cast<GroupView&>(group).WrapCaption();
+  Widen(frame, caption);
+  auto* column = new QVBoxLayout;
+  column->setSpacing(TightSpacing);
+  column->addWidget(&caption);
+  column->addLayout(Build(frame.parts.front()));
+  column->addStretch(1);
+  return column;
+}
+
 QWidget* LayoutBuilder::Place(const Part& part) {
   WidgetView& view = find_(part.field);
   QWidget* widget = view.Widget();
   if (!part.label.empty()) Label(part.label, view);
   ApplyLook(part.look, *widget);
+  if (part.look == Look::Newest) static_cast<ListBoxView&>(view).FollowNewest();
   if (keeping_) KeepRoom(*widget);
   Widen(part, *widget);
   placed_.push_back(widget);

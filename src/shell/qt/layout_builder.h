@@ -40,10 +40,13 @@ class LayoutBuilder {
   QLayout* BuildLine(const Part& line);
   QLayout* BuildBelow(const Part& part);
   QLayout* BuildTiles(const Part& part);
+  QLayout* BuildColumns(const Part& part);
   QLayout* BuildInside(const Part& part);
+  QLayout* BuildAmid(const Part& part);
   QLayout* BuildPile(const Part& part);
   QLayout* BuildCover(const Part& part);
   QWidget* BuildFrame(const Part& part);
+  QLayout* BuildBelowCaption(const Part& frame, WidgetView& group);
   QWidget* Place(const Part& part);
   void Add(const Part& part, QBoxLayout& box);
   void Label(const std::string& label, WidgetView& view);

@@ -1,7 +1,9 @@
 #include "shell/qt/list_box_view.h"
 
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
+#include <algorithm>
 
 #include "shell/qt/event_guard.h"
 
@@ -102,11 +104,20 @@ void ListBoxView::Push() {
 }
 
 void ListBoxView::PushItems() {
-  items_ = field_.Items();
-  QStringList items;
-  for (const std::string& item : items_) items.append(ToQt(item));
-  box_->clear();
-  box_->addItems(items);
+  const std::vector<std::string>& items = field_.Items();
+  const bool added = follows_ && !items_.empty() && items.size() > items_.size() &&
+                     std::equal(items_.begin(), items_.end(), items.begin());
+  if (!added) box_->clear();
+  const QScrollBar& bar = *box_->verticalScrollBar();
+  // Who has scrolled up to read is left there.
+  const bool atEnd = added && bar.value() == bar.maximum();
+  QStringList further;
+  for (auto item = static_cast<std::size_t>(box_->count()); item < items.size(); ++item) {
+    further.append(ToQt(items[item]));
+  }
+  box_->addItems(further);
+  items_ = items;
+  if (atEnd) box_->scrollToBottom();
 }
 
 }  // namespace bkconf

@@ -14,6 +14,9 @@ class ListBoxView : public WidgetView {
  public:
   ListBoxView(ListBoxField& field, QWidget* parent);
 
+  /// Keeps the last item in view when items are added at the end.
+  void FollowNewest() { follows_ = true; }
+
  protected:
   void Push() override;
 
@@ -26,6 +29,7 @@ class ListBoxView : public WidgetView {
   ListBoxField& field_;
   Box* box_;
   std::vector<std::string> items_;
+  bool follows_ = false;
 };
 
 }  // namespace bkconf

@@ -40,6 +40,7 @@ ListView::ListView(ListField& field, QWidget* parent)
 }
 
 void ListView::Push() {
+  PushColour(QPalette::Button, QPalette::ButtonText);
   if (items_ != field_.items) PushItems();
   const bool foreign = field_.Index() < 0;
   // The widget is asked, not a memory of the last push: the user may have moved it.

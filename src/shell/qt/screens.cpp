@@ -3,6 +3,7 @@
 #include <array>
 #include <map>
 
+#include "diagnostics/diagnostics_screen.h"
 #include "master/context_screen.h"
 #include "master/light_program_screen.h"
 #include "master/time_program_screen.h"
@@ -12,8 +13,10 @@
 #include "shell/directory_screen.h"
 #include "shell/main_window.h"
 #include "shell/open_dialog.h"
+#include "shell/qt/layouts/alarm_screen.h"
 #include "shell/qt/layouts/button_screen.h"
 #include "shell/qt/layouts/context_screen.h"
+#include "shell/qt/layouts/diagnostics_screen.h"
 #include "shell/qt/layouts/directory_picker.h"
 #include "shell/qt/layouts/directory_screen.h"
 #include "shell/qt/layouts/light_program_screen.h"
@@ -23,6 +26,7 @@
 #include "shell/qt/layouts/save_dialog.h"
 #include "shell/qt/layouts/time_program_screen.h"
 #include "shell/save_dialog.h"
+#include "special/alarm_screen.h"
 
 namespace bkconf {
 namespace {
@@ -38,6 +42,8 @@ constexpr auto Rows = std::to_array<ScreenRow>({
     {&ContextScreen, ContextScreenLayout, &MainWindow},
     {&TimeProgramScreen, TimeProgramScreenLayout, &MainWindow},
     {&LightProgramScreen, LightProgramScreenLayout, &MainWindow},
+    {&AlarmScreen, AlarmScreenLayout, &MainWindow},
+    {&DiagnosticsScreen, DiagnosticsScreenLayout, &MainWindow},
 });
 
 }  // namespace

@@ -14,6 +14,9 @@ namespace {
 
 constexpr QRgb Accent = 0xff1f6489;
 constexpr QRgb OnAccent = 0xffffffff;
+/// The colours of fields are light in every theme.
+constexpr QRgb TextOnColour = 0xff1c2630;
+constexpr QRgb DisabledOnColour = 0xff56616c;
 
 /// Fusion, but for groups: a card with its caption in bold at the top.
 class CardStyle : public QProxyStyle {
@@ -115,11 +118,20 @@ void MakePrimary(QWidget& widget) {
 
 }  // namespace
 
+void WriteOnColour(QPalette& palette, QPalette::ColorRole role) {
+  palette.setColor(role, QColor(TextOnColour));
+  palette.setColor(QPalette::Disabled, role, QColor(DisabledOnColour));
+}
+
 void ApplyStyle(QApplication& application) {
   application.setStyle(new CardStyle);
   if (application.palette().color(QPalette::Window).lightness() >= 128) {
     application.setPalette(LightPalette());
   }
+}
+
+void MakeBold(QWidget& widget) {
+  widget.setFont(CardStyle::Bold(widget.font()));
 }
 
 void ApplyLook(Look look, QWidget& widget) {
@@ -128,16 +140,18 @@ void ApplyLook(Look look, QWidget& widget) {
   const bool pressed = look == Look::Tall || dynamic_cast<QPushButton*>(&widget) != nullptr ||
                        dynamic_cast<QComboBox*>(&widget) != nullptr ||
                        dynamic_cast<QLineEdit*>(&widget) != nullptr;
-  if (pressed) widget.setMinimumHeight(9 * widget.fontMetrics().height() / 4);
+  if (pressed && look != Look::Low) widget.setMinimumHeight(9 * widget.fontMetrics().height() / 4);
   switch (look) {
     case Look::Plain:
     case Look::Tall:
+    case Look::Low:
+    case Look::Newest:
       return;
     case Look::Primary:
       MakePrimary(widget);
       return;
     case Look::Heading:
-      widget.setFont(CardStyle::Bold(widget.font()));
+      MakeBold(widget);
       return;
     case Look::Path:
       if (auto* label = dynamic_cast<FittingLabel*>(&widget)) label->Shorten();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QPalette>
 #include <QWidget>
 
 #include "shell/qt/layout.h"
@@ -17,6 +18,11 @@ inline constexpr int FrameMargin = 14;
 /// are kept.
 void ApplyStyle(QApplication& application);
 
+/// Gives a role of a palette what is written on the colour of a field: dark in every theme.
+void WriteOnColour(QPalette& palette, QPalette::ColorRole role);
+
 void ApplyLook(Look look, QWidget& widget);
+/// In the weight of captions.
+void MakeBold(QWidget& widget);
 
 }  // namespace bkconf

@@ -14,6 +14,7 @@ TextView::TextView(TextField& field, QWidget* parent)
 }
 
 void TextView::Push() {
+  PushColour(QPalette::Base, QPalette::Text);
   // The widget is asked: a text that is set anew would put the cursor to its end.
   const QString text = ToQt(field_.Text());
   if (line_->text() != text) line_->setText(text);

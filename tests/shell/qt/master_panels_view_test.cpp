@@ -1,23 +1,9 @@
 // The windows of a master's contexts, time programmes and light programmes in every state of their
 // panels, in one language.
-#include <QAccessible>
-
 #include "actions/action_sentence.h"
-#include "layout_names.h"
 #include "master_house.h"
 #include "master_stage.h"
 #include "shell/qt/event_guard.h"
-
-namespace {
-
-/// What a desktop of 1366 x 768 leaves for a window within its frame.
-constexpr QSize SmallDesktop{1356, 728};
-
-bool TakesFocus(const QWidget* widget) {
-  return widget->isVisible() && widget->isEnabled() && widget->focusPolicy() != Qt::NoFocus;
-}
-
-}  // namespace
 
 using namespace bkconf;
 
@@ -100,51 +86,21 @@ class MasterPanelsViewTest : public QObject, private MasterStage {
   void EveryStateFitsAndNoFieldCoversAnother() {
     QFETCH(int, state);
     ShowState(State(state));
-    const QList<QWidget*> fields = VisibleFields();
-    for (const QWidget* one : fields) {
-      const QByteArray name = one->objectName().toUtf8();
-      const QSize needed = one->minimumSizeHint();
-      QVERIFY2(one->width() >= needed.width() && one->height() >= needed.height(), name);
-      QVERIFY2(Window()->rect().contains(Place(one)), name);
-      for (const QWidget* other : fields) {
-        if (one == other || one->isAncestorOf(other) || other->isAncestorOf(one)) continue;
-        QVERIFY2(!Place(one).intersects(Place(other)), name + " " + other->objectName().toUtf8());
-      }
-    }
+    ExpectNoFieldCutOffOrCovered();
   }
 
   void EveryFieldOfAStateHasANameForAScreenReader_data() { AddStates(); }
   void EveryFieldOfAStateHasANameForAScreenReader() {
     QFETCH(int, state);
     ShowState(State(state));
-    for (QWidget* widget : VisibleFields()) {
-      const QByteArray name = widget->objectName().toUtf8();
-      if (name == "description") continue;  // empty now and then
-      const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(widget);
-      const bool list = dynamic_cast<const QComboBox*>(widget) != nullptr;
-      QVERIFY2(!spoken->text(list ? QAccessible::Description : QAccessible::Name).isEmpty(), name);
-    }
+    ExpectEveryFieldHasANameForAScreenReader();
   }
 
   void TheTabulatorGoesInReadingOrderInEveryState_data() { AddStates(); }
   void TheTabulatorGoesInReadingOrderInEveryState() {
     QFETCH(int, state);
     ShowState(State(state));
-    const auto row =
-        std::find_if(AllScreens().begin(), AllScreens().end(),
-                     [&](const ScreenRow& each) { return each.screen == State(state).screen; });
-    QStringList expected = NamesIn(row->layout());
-    expected.removeIf([&](const QString& name) {
-      return !TakesFocus(Find<QWidget>(name.toLatin1().constData()));
-    });
-    QWidget* first = Find<QWidget>(expected.front().toLatin1().constData());
-    first->setFocus();
-    QStringList visited;
-    do {
-      visited.append(FieldInFocus());
-      QTest::keyClick(Window(), Qt::Key_Tab);
-    } while (Window()->focusWidget() != first && visited.size() <= expected.size());
-    QCOMPARE(visited, expected);
+    ExpectTabulatorGoesInReadingOrder();
   }
 
  private:

@@ -2,9 +2,7 @@
 
 #include <algorithm>
 
-#include "shell/main_window.h"
 #include "shell/qt/event_guard.h"
-#include "shell/qt/style.h"
 
 namespace bkconf {
 namespace {
@@ -20,10 +18,6 @@ ActionPicker& PickerOf(Screen& screen) {
 }
 
 }  // namespace
-
-QString Say(TextId id) {
-  return ToQt(Text(id));
-}
 
 const std::vector<ScreenState>& MasterStage::States() {
   static const std::vector<ScreenState> states = {
@@ -87,37 +81,6 @@ void MasterStage::AddQuestionsOfPrograms() {
 
 // --- The windows --------------------------------------------------------------------------------
 
-void MasterStage::Begin() {
-  ApplyStyle(*qApp);
-  Language = qEnvironmentVariableIntValue("BKCONF_TEST_LANGUAGE");
-  QVERIFY(Language.Number() == Dutch || Language.Number() == French);
-  Today = [] { return Date{2024, 2, 29}; };
-  main_ = MakeWindows();
-  RunEvent(LoadMainWindow);
-  QVERIFY(QTest::qWaitForWindowExposed(main_.get()));
-}
-
-void MasterStage::CloseAll() {
-  for (QWidget* widget : QApplication::topLevelWidgets()) {
-    if (auto* box = qobject_cast<QMessageBox*>(widget)) box->close();
-  }
-  RunEvent([] {
-    ContextScreen.Close();
-    TimeProgramScreen.Close();
-    LightProgramScreen.Close();
-  });
-}
-
-void MasterStage::Show(Screen& screen, void (*open)()) {
-  RunEvent(open);
-  const auto window = std::find_if(
-      ScreenWindows().begin(), ScreenWindows().end(),
-      [&screen](const ScreenWindow* each) { return each->objectName() == ToQt(screen.name); });
-  window_ = *window;
-  screen_ = &screen;
-  QVERIFY(QTest::qWaitForWindowActive(window_));
-}
-
 void MasterStage::ShowContext(int context) {
   Show(ContextScreen, OpenContextScreen);
   PickRow("chooser", context);
@@ -159,62 +122,12 @@ void MasterStage::OpenEditor(Screen& screen) {
   QCoreApplication::processEvents();
 }
 
-// --- What a person does -------------------------------------------------------------------------
-
-void MasterStage::PickRow(const char* list, int row) {
-  QComboBox* box = List(list);
-  box->setFocus();
-  QTest::keyClick(box, Qt::Key_Home);
-  for (int step = 0; step < row; ++step) QTest::keyClick(box, Qt::Key_Down);
-  QCOMPARE(box->currentIndex(), row);
-}
-
-void MasterStage::Pick(const char* list, const char* item) {
-  QComboBox* box = List(list);
-  const int row = box->findText(QString::fromLatin1(item));
-  QVERIFY2(row >= 0 && box->isVisible() && box->isEnabled(), list);
-  box->setFocus();
-  box->setCurrentIndex(row);
-  Q_EMIT box->activated(row);
-}
-
 QTableView* MasterStage::Grid() const {
-  return Find<QTableView>(GridOf(*screen_).name.c_str());
+  return Find<QTableView>(GridOf(Shown()).name.c_str());
 }
 
 QString MasterStage::CellText(int row, int column) const {
   return Grid()->model()->index(row, column).data().toString();
-}
-
-QPoint MasterStage::PlaceOf(int row, int column) const {
-  const QModelIndex index = Grid()->model()->index(row, column);
-  Grid()->scrollTo(index);
-  return Grid()->visualRect(index).center();
-}
-
-void MasterStage::ClickCell(int row, int column) const {
-  QTest::mouseClick(Grid()->viewport(), Qt::LeftButton, {}, PlaceOf(row, column));
-}
-
-void MasterStage::DoubleClick(int row, int column) const {
-  ClickCell(row, column);
-  QTest::mouseDClick(Grid()->viewport(), Qt::LeftButton, {}, PlaceOf(row, column));
-}
-
-QList<QWidget*> MasterStage::VisibleFields() const {
-  QList<QWidget*> widgets;
-  for (const Field* field : screen_->fields) {
-    auto* widget = Find<QWidget>(field->name.c_str());
-    if (widget->isVisible()) widgets.append(widget);
-  }
-  return widgets;
-}
-
-QString MasterStage::FieldInFocus() const {
-  const QWidget* widget = window_->focusWidget();
-  const auto* calendar = window_->findChild<QCalendarWidget*>();
-  const bool inCalendar = calendar != nullptr && calendar->isAncestorOf(widget);
-  return inCalendar ? calendar->objectName() : widget->objectName();
 }
 
 }  // namespace bkconf

@@ -9,6 +9,8 @@
 namespace bkconf {
 
 inline constexpr int PickerTypeCharacters = 26;
+/// An editor with a picker in it, at the width of the most that it asks for.
+inline constexpr int PickerEditorCharacters = 68;
 
 /// A list with its caption above it.
 inline Part PickerList(const std::string& name) {

@@ -13,11 +13,9 @@ inline Part DescriptionPart() {
   return Frame("descriptionGroup", Column({Item("description", Look::Sentence)}));
 }
 
-/// Two panels of which one at most is open, in the same place. The room of the editor is kept, at
-/// the width of the most that it asks for.
+/// Two panels of which one at most is open, in the same place. The room of the editor is kept.
 inline Part PanelsPart(const Part& editor, const Part& question) {
-  constexpr int characters = 68;
-  return Pile({Kept(Entered(Wide(characters, editor))), Entered(question)});
+  return Pile({Kept(Entered(Wide(PickerEditorCharacters, editor))), Entered(question)});
 }
 
 /// The picker, and below it the moment of a programme.
