@@ -218,6 +218,14 @@ class GridView::Table : public QTableView {
     QTableView::mouseDoubleClickEvent(event);
   }
 
+  /// The cursor stands on a cell as soon as the table has the focus, also when another one was
+  /// deselected before.
+  void focusInEvent(QFocusEvent* event) override {
+    QTableView::focusInEvent(event);
+    if (currentIndex().isValid() || rows_->rowCount() == 0) return;
+    selectionModel()->setCurrentIndex(rows_->index(0, 0), QItemSelectionModel::NoUpdate);
+  }
+
   void keyPressEvent(QKeyEvent* event) override {
     switch (event->key()) {
       case Qt::Key_Return:
@@ -233,7 +241,7 @@ class GridView::Table : public QTableView {
       case Qt::Key_Left:
       case Qt::Key_Right:
         if (!Selected().isValid() && currentIndex().isValid()) {
-          // The cursor stands on a cell as soon as the table has the focus: that one comes first.
+          // The cell on which the cursor stands comes first.
           selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
           return;
         }

@@ -224,7 +224,8 @@ QWidget* LayoutBuilder::BuildFrame(const Part& part) {
   const int margin = part.tight ? 0 : FrameMargin;
   content->setContentsMargins(margin, margin, margin, margin);
   frame->setLayout(content);
-  Widen(part, *frame);
+  // A width of its own would let it shrink below what its caption needs.
+  if (part.look != Look::Wrapped) Widen(part, *frame);
   if (part.entered) entered_.push_back(frame);
   return frame;
 }

@@ -1,5 +1,6 @@
 #include "shell/qt/list_view.h"
 
+#include <QStylePainter>
 #include <QWheelEvent>
 
 #include "shell/qt/event_guard.h"
@@ -14,6 +15,29 @@ class WheelProofBox : public QComboBox {
 
  protected:
   void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+
+  /// A colour is painted as flat as that of a label: the style would let it fade.
+  void paintEvent(QPaintEvent* event) override {
+    if (!palette().isBrushSet(QPalette::Active, QPalette::Button)) {
+      QComboBox::paintEvent(event);
+      return;
+    }
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    painter.fillRect(rect().adjusted(FrameWidth, FrameWidth, -FrameWidth, -FrameWidth),
+                     option.palette.button());
+    option.palette.setBrush(QPalette::WindowText, option.palette.buttonText());
+    if (currentIndex() < 0) option.currentText = placeholderText();
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+    option.rect =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, this);
+    painter.drawPrimitive(QStyle::PE_IndicatorArrowDown, option);
+  }
+
+ private:
+  static constexpr int FrameWidth = 2;
 };
 
 /// A text that is no item is as real as one that is: it gets the colour of any other.

@@ -232,6 +232,18 @@ class GridViewTest : public QObject {
     QCOMPARE(screen_->events, Events({"select 1 1", "open 1 1"}));
   }
 
+  void TheCursorStandsOnACellAgainAfterOneWasDeselected() {
+    Click(Grid(), 1, 1);
+    window_->findChild<QPushButton*>()->setFocus();
+    screen_->grid.ClearSelection();
+    window_->Refresh();
+    QVERIFY(!Grid()->currentIndex().isValid());
+    Grid()->setFocus();
+    QCOMPARE(Grid()->currentIndex(), Grid()->model()->index(0, 0));
+    QVERIFY(Grid()->selectionModel()->selectedIndexes().isEmpty());
+    QCOMPARE(screen_->events, Events({"select 2 2"}));
+  }
+
   void EnterOpensTheCellWhereTheScreenHasNoButtonForIt() {
     screen_->enter = nullptr;
     window_->Refresh();

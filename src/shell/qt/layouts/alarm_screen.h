@@ -28,7 +28,7 @@ inline Part ConditionsPart() {
 }
 
 inline Part AlarmScreenLayout() {
-  constexpr int captionCharacters = 38;
+  constexpr int captionCharacters = 50;
   const Part actions =
       Row({Share(1, WrappedFrame(captionCharacters, "triggerGroup",
                                  Column({Labelled("triggerGroup", "triggerAction")}))),

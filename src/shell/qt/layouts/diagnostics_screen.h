@@ -14,13 +14,18 @@ namespace bkconf {
 
 /// The text of a panel takes as many lines as it needs at this width.
 inline constexpr int PanelCharacters = 76;
+/// Choices and panels keep their width, whichever of them a module has.
+inline constexpr int ChoiceCharacters = 34;
+inline constexpr int PanelFrameCharacters = PanelCharacters + 6;
 
 /// What starts and stops a test, and what it tells in words, below each other in every panel.
 inline Part TestPart(const std::string& name, Part results, std::vector<Part> beside = {}) {
   std::vector<Part> buttons = {Item(name + "Start", Look::Primary), Item(name + "Stop"), Space()};
   for (Part& part : beside) buttons.push_back(std::move(part));
-  return Frame(name + "Group", Column({Wide(PanelCharacters, Item(name + "Help", Look::Wrapped)),
-                                       Row(std::move(buttons)), std::move(results)}));
+  return Wide(
+      PanelFrameCharacters,
+      Frame(name + "Group", Column({Wide(PanelCharacters, Item(name + "Help", Look::Wrapped)),
+                                    Row(std::move(buttons)), std::move(results)})));
 }
 
 inline Part Value(int characters, std::string_view field) {
@@ -56,10 +61,11 @@ inline Part ClockFieldsPart(const std::string& name) {
 }
 
 inline Part ClockPart() {
-  return Frame("clockGroup",
-               Column({Row({Item("ask", Look::Primary), Item("synchronise"), Space()}),
-                       Row({Share(1, ClockFieldsPart("masterClock")),
-                            Share(1, ClockFieldsPart("pcClock"))})}));
+  return Wide(
+      PanelFrameCharacters,
+      Frame("clockGroup", Column({Row({Item("ask", Look::Primary), Item("synchronise"), Space()}),
+                                  Row({Share(1, ClockFieldsPart("masterClock")),
+                                       Share(1, ClockFieldsPart("pcClock"))})})));
 }
 
 inline Part DiagnosticsScreenLayout() {
@@ -69,16 +75,18 @@ inline Part DiagnosticsScreenLayout() {
     outputs.push_back(Item(output->name));
   std::vector<Part> choices;
   for (const auto& choice : DiagnosticsScreen.choices) choices.push_back(Item(choice->name));
-  const Part left =
-      Column({Item("heading", Look::Heading), Frame("choiceGroup", Tight(std::move(choices))),
-              Wide(28, Item("notice", Look::Wrapped)), Space()});
-  const Part panels = Pile(
-      {TestPart("line", Row({Item("lineLevelLabel"), Value(12, "lineLevel"), Space()})),
-       TestPart("buttons", Column({Row({Item("pressedLabel"), Value(12, "pressed"), Space()}),
-                                   Tight({Item("historyLabel"), Item("history", Look::Newest)})})),
-       Kept(TestPart("detectors", DetectorTablePart(), {Item("update")})),
-       TestPart("light", Row({Value(12, "lightLevel"), Space()})), ClockPart(),
-       TestPart("outputs", Tiles(outputsInRow, std::move(outputs)))});
+  const Part left = Column({Item("heading", Look::Heading),
+                            Wide(ChoiceCharacters, Frame("choiceGroup", Tight(std::move(choices)))),
+                            Wide(ChoiceCharacters, Item("notice", Look::Wrapped)), Space()});
+  Part history = Labelled("historyLabel", "history");
+  history.look = Look::Newest;
+  const Part panels =
+      Pile({TestPart("line", Row({Item("lineLevelLabel"), Value(12, "lineLevel"), Space()})),
+            TestPart("buttons", Column({Row({Item("pressedLabel"), Value(12, "pressed"), Space()}),
+                                        Tight({Item("historyLabel"), history})})),
+            Kept(TestPart("detectors", DetectorTablePart(), {Item("update")})),
+            TestPart("light", Row({Value(12, "lightLevel"), Space()})), ClockPart(),
+            TestPart("outputs", Tiles(outputsInRow, std::move(outputs)))});
   return Column(
       {Row({left, Share(1, panels)}), Rule(),
        Row({Share(2, Item("status")), Share(1, Labelled("status", "bar")), Item("leave")})});
