@@ -113,7 +113,8 @@ inline constexpr PickerVariant LightPicker{.types = LightPickerTypes,
 
 /// The detectors of an alarm module, which is no target of its own.
 inline constexpr PickerVariant AlarmPicker{.types = AlarmPickerTypes,
-                                           .heading = TextId::ModuleTypeHeading};
+                                           .heading = TextId::ModuleTypeHeading,
+                                           .code = TextId::CodeCaption};
 
 /// A list with its caption; both appear and disappear together.
 struct LabelledList {

@@ -178,7 +178,10 @@ std::string UpdateFrame(int detector) {
 }
 
 void SendNextDetector() {
+  // A port that fails here ends the update.
+  DetectorUpdate.Disable();
   Port->Write(UpdateFrame(DetectorCursor));
+  DetectorUpdate.Enable();
   Fields(DetectorCursor).logic.colour = Fields(DetectorCursor).level.colour = PanelColour;
   AdvanceTestBar();
   ++DetectorCursor;

@@ -193,7 +193,9 @@ void LoadChoices() {
   for (std::size_t i = 0; i < TestChoices.size(); ++i) {
     const TestChoice& choice = TestChoices[i];
     Show(DiagnosticsScreen.choices[i]->caption, choice.caption);
-    DiagnosticsScreen.choices[i]->onClick = [&choice] { ShowPanel(&choice); };
+    DiagnosticsScreen.choices[i]->onClick = [&choice] {
+      if (shownChoice != &choice) ShowPanel(&choice);
+    };
     choice.load();
   }
 }

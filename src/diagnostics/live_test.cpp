@@ -19,6 +19,10 @@ constexpr int StopFrames = 50;
 /// The longest line of a test. What is longer is two lines that ran into each other.
 constexpr std::size_t LongestLine = 14;
 
+/// What was asked before the test. A Send that has nothing to write repeats the last command, and a
+/// test that nobody follows could not be ended.
+Cell commandBefore;
+
 /// The module was found and the command is on its way.
 void ShowRunning() {
   if (RunningTest == nullptr) return;
@@ -42,6 +46,7 @@ void Finish() {
   if (RunningTest == nullptr) return;
   if (RunningTest->ended != nullptr) RunningTest->ended();
   RunningTest = nullptr;
+  PendingCommand = commandBefore;
   DiagnosticsScreen.bar.visible = false;
   Show(DiagnosticsScreen.status.caption, TextId::Ready);
   EnableDiagnostics();
@@ -51,6 +56,7 @@ void Finish() {
 
 void StartTest(const LiveTest& test) {
   RunningTest = &test;
+  commandBefore = PendingCommand;
   DisableDiagnostics();
   Show(DiagnosticsScreen.status.caption, TextId::SearchingModule);
   StartRequest(test.command);
@@ -58,9 +64,11 @@ void StartTest(const LiveTest& test) {
 
 void StopRunningTest() {
   if (RunningTest == nullptr || RunningTest->sendStop == nullptr) return;
-  RunningTest->sendStop();
+  // A port that fails here must not keep the screen locked.
+  const auto sendStop = RunningTest->sendStop;
   EndTest();
   Finish();
+  sendStop();
 }
 
 void AdvanceTestBar() {

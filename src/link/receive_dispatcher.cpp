@@ -55,6 +55,9 @@ constexpr auto DispatchRows = std::to_array<DispatchRow>({
     {"STOP", {9}, false, {TestLightSensor}, Outcome::EndTest, LinkEvent::TestEnded},
     {"STOP", {9}, false, {Test4}, Outcome::EndTest, LinkEvent::ModuleScanEnded},
     {"STOP", {9}, false, {Test3}, Outcome::EndTest, LinkEvent::TestEnded},
+    // Tests that the tool stops, ended by the module all the same.
+    {"STOP", TestedModules, false, {TestButtons, Test3}, Outcome::EndTest, LinkEvent::TestEnded},
+    {"STOP", {5}, false, {Test4}, Outcome::EndTest, LinkEvent::TestEnded},
     {"STOP", {}, true, AnyCommand, Outcome::EndBaseRead, std::nullopt},
 });
 

@@ -145,6 +145,7 @@ void ConditionFields::EnableFields() {
   const bool first = some && !periods[0].none.checked;
   noCondition.enabled = open_;
   lightGroup.visible = timeGroup.visible = !noCondition.checked;
+  lightGroup.enabled = timeGroup.enabled = some;
   both.visible = either.visible = !noCondition.checked;
   noLight.enabled = some;
   level.enabled = levelLabel.enabled = some && !noLight.checked;

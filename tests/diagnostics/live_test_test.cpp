@@ -195,14 +195,28 @@ TEST_P(EndingTestTest, StopOfTheModuleEndsTheTestsThatEndByThemselves) {
   EXPECT_TRUE(line.IsOpen());
 }
 
-TEST_P(EndlessTestTest, StopOfTheModuleLeavesTheOthersToBeStopped) {
+TEST_P(LiveTestTest, ASendAfterItRepeatsWhatWasAskedBefore) {
+  PendingCommand = "T80000";
+  OpenPanel();
+  Run();
+  LeaveTransfer();
+  EXPECT_EQ(PendingCommand, Cell("T80000"));
+}
+
+TEST_P(EndlessTestTest, APortThatFailsAtTheStopDoesNotLockTheScreen) {
+  OpenPanel();
+  Run();
+  line.failed = true;
+  EXPECT_THROW(Row().stop->Click(), RuntimeError);
+  ExpectFree(true);
+  EXPECT_EQ(RunningTest, nullptr);
+}
+
+TEST_P(EndlessTestTest, StopOfTheModuleEndsTheOthersToo) {
   OpenPanel();
   Run();
   Tell("STOP");
   EXPECT_FALSE(LinkTick.Enabled());
-  EXPECT_EQ(Status(), Running(1));
-  ASSERT_TRUE(Row().stop->Usable());
-  Row().stop->Click();
   ExpectFree(true);
   EXPECT_EQ(Status(), "Ready");
 }

@@ -188,8 +188,8 @@ TEST_F(ReceiveDispatcherTest, EveryOtherEndFreesTheWindow) {
   }
   EXPECT_EQ(Dispatch("STOP", 3, "T80000"), Freed);
   EXPECT_EQ(Dispatch("STOP", 3, "T85000"), Freed);
-  EXPECT_EQ(Dispatch("STOP", 0, "T80200"), Freed);
-  EXPECT_EQ(Dispatch("STOP", 5, "T80300"), Freed);
+  EXPECT_EQ(Dispatch("STOP", 0, "T80200"), FreedWith(LinkEvent::TestEnded));
+  EXPECT_EQ(Dispatch("STOP", 5, "T80300"), FreedWith(LinkEvent::TestEnded));
   EXPECT_EQ(Dispatch("STOP", NoModule, "T80000"), Freed);
 }
 
