@@ -23,8 +23,7 @@ struct LogUnit {
   long firstByte = 0;  // us
   long lastByte = 0;
   bool fromTool = false;
-  std::string text;     // CR is \r, LF is \n
-  std::string meaning;  // what the module did on a frame of a live test, such as "output 3 on"
+  std::string text;  // CR is \r, LF is \n
 };
 
 class Stage : public ::testing::Test {
@@ -48,9 +47,8 @@ class Stage : public ::testing::Test {
   // Waits until the tool has ended well and left a copy of itself, which is the tool from then on.
   void FollowTool();
 
-  Desktop& desktop() const { return *desktop_; }
+  Desktop& desktop() { return *desktop_; }
   Process& tool() { return *tool_; }
-  Process& module() { return *module_; }
 
   // Waits until the widget is there and, if so wanted, enabled. Throws std::runtime_error, which
   // ends the test, when it never is or the tool has ended.
