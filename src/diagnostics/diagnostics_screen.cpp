@@ -128,10 +128,23 @@ OutputPanel::OutputPanel(Screen& screen) : TestPanel(screen, "outputs") {
   }
 }
 
+namespace {
+
+std::vector<std::unique_ptr<ButtonField>> MakeChoices(Screen& screen) {
+  std::vector<std::unique_ptr<ButtonField>> choices;
+  for (const TestChoice& choice : TestChoices) {
+    choices.push_back(std::make_unique<ButtonField>(screen, choice.name));
+  }
+  return choices;
+}
+
+}  // namespace
+
 DiagnosticsScreenFields::DiagnosticsScreenFields()
     : Screen("DiagnosticsScreen"),
       heading(*this, "heading"),
       choiceGroup(*this, "choiceGroup"),
+      choices(MakeChoices(*this)),
       notice(*this, "notice"),
       line(*this),
       buttons(*this),
@@ -141,11 +154,7 @@ DiagnosticsScreenFields::DiagnosticsScreenFields()
       outputs(*this),
       status(*this, "status"),
       bar(*this, "bar"),
-      leave(*this, "leave") {
-  for (const TestChoice& choice : TestChoices) {
-    choices.push_back(std::make_unique<ButtonField>(*this, choice.name));
-  }
-}
+      leave(*this, "leave") {}
 
 namespace {
 
