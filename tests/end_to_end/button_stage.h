@@ -2,6 +2,7 @@
 // tests.
 #pragma once
 
+#include <ostream>
 #include <string>
 
 #include "end_to_end/stage.h"
@@ -15,6 +16,10 @@ struct ButtonModule {
   const char* demoFile;
   const char* screen;  // its title
 };
+
+inline void PrintTo(const ButtonModule& each, std::ostream* out) {
+  *out << each.name;
+}
 
 inline constexpr ButtonModule relayButtons = {&dutch, 0, "Relay", "Relais A.BK1",
                                               "Relaismodule KR7021 <adres = A>"};

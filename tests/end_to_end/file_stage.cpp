@@ -30,6 +30,15 @@ void FileStage::PressSave() {
   AwaitGone("frame", captions().saveTitle);
 }
 
+std::filesystem::path FileStage::SaveAs(const std::string& name) {
+  OpenSaveScreen();
+  TypeName(name);
+  PressSave();
+  std::filesystem::path file = directory() / (name + ".BK1");
+  AwaitWindow(TitleOf(file));
+  return file;
+}
+
 void FileStage::OpenOpenScreen() {
   ClickOnEntry(captions().fileMenu, captions().openEntry);
   AwaitWindow(captions().openTitle);

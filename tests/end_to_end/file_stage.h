@@ -23,6 +23,8 @@ class FileStage : public Stage {
   void AwaitName(const std::string& name);
   void TypeName(const std::string& name);
   void PressSave();
+  // All of that, to a file of the settings directory, and waits for the title. Gives the file.
+  std::filesystem::path SaveAs(const std::string& name);
 
   void OpenOpenScreen();
   // A click shows the whole path; the button or a double click takes it.

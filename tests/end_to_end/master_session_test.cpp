@@ -100,15 +100,6 @@ class MasterSessions : public MasterStage {
     ClickOn("push button", captions().yes);
     AwaitGone("label", texts().question);
   }
-
-  fs::path SaveAs(const std::string& name) {
-    OpenSaveScreen();
-    TypeName(name);
-    PressSave();
-    const fs::path file = directory() / (name + ".BK1");
-    AwaitWindow(TitleOf(file));
-    return file;
-  }
 };
 
 TEST_F(MasterSessions, WhatWasChangedIsSentAndNothingElse) {

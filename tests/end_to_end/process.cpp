@@ -2,9 +2,11 @@
 
 #include <fcntl.h>
 #include <sys/prctl.h>
+#include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <fstream>
@@ -41,16 +43,26 @@ Process::Process(const std::vector<std::string>& words, fs::path output)
     : output_(std::move(output)) {
   std::vector<std::string> copies = words;
   const std::vector<char*> arguments = Pointers(copies);
+  // No pipe: writing to one whose reader has ended would end the test.
+  std::array<int, 2> ends{};
+  if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0) {
+    throw std::runtime_error("nothing to read for " + words.front());
+  }
+  input_ = ends[0];
   process_ = fork();
-  if (process_ < 0) throw std::runtime_error("no process for " + words.front());
   if (process_ == 0) {
     prctl(PR_SET_PDEATHSIG, SIGKILL);  // a test that crashes leaves nothing behind
+    dup2(ends[1], STDIN_FILENO);
     const int file = open(output_.c_str(), O_WRONLY | O_CREAT | O_APPEND, 0644);
     dup2(file, STDOUT_FILENO);
     dup2(file, STDERR_FILENO);
     execvp(arguments[0], arguments.data());
     _exit(notThere);
   }
+  close(ends[1]);
+  if (process_ >= 0) return;
+  close(input_);
+  throw std::runtime_error("no process for " + words.front());
 }
 
 Process::Process(pid_t inherited, fs::path output)
@@ -58,6 +70,7 @@ Process::Process(pid_t inherited, fs::path output)
 
 Process::~Process() {
   End();
+  if (input_ >= 0) close(input_);
 }
 
 void Process::Look(int options) {
@@ -82,6 +95,12 @@ void Process::End() {
   if (WaitFor([this] { return !Running(); }, std::chrono::seconds(5))) return;
   kill(process_, SIGKILL);
   Look(0);
+}
+
+void Process::Tell(const std::string& line) {
+  const std::string told = line + "\n";
+  const ssize_t sent = send(input_, told.data(), told.size(), MSG_NOSIGNAL);
+  if (sent != static_cast<ssize_t>(told.size())) throw std::runtime_error("nobody reads " + line);
 }
 
 std::string Process::Output() const {

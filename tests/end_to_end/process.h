@@ -12,9 +12,10 @@ namespace end_to_end {
 
 class Process {
  public:
-  // Starts `words` with the environment of the test. What it prints on either stream is added to
-  // the file `output`. Throws std::runtime_error when no process can be made; a program that is not
-  // there ends with status 127.
+  // Starts `words` with the environment of the test, and with nothing to read until it is told
+  // something. What it prints on either stream is added to the file `output`. Throws
+  // std::runtime_error when no process can be made; a program that is not there ends with status
+  // 127.
   Process(const std::vector<std::string>& words, std::filesystem::path output);
   // One that is there already, a child of the test: see InheritOrphans.
   Process(pid_t inherited, std::filesystem::path output);
@@ -30,6 +31,9 @@ class Process {
   // Asks it to end, and makes it when it does not.
   void End();
 
+  // Gives it a line to read, to which the end is added. Throws std::runtime_error when it does not
+  // take it.
+  void Tell(const std::string& line);
   // What it has printed so far.
   std::string Output() const;
 
@@ -37,6 +41,7 @@ class Process {
   void Look(int options);
 
   pid_t process_ = -1;
+  int input_ = -1;  // the near end of its standard input; none of an inherited one
   std::optional<int> status_;
   std::filesystem::path output_;
 };

@@ -47,6 +47,11 @@ LogUnit UnitOf(const std::string& line) {
   unit.fromTool = sender == "tool";
   words.get();  // the blank
   std::getline(words, unit.text);
+  constexpr std::string_view means = " = ";
+  if (const auto at = unit.text.find(means); at != std::string::npos) {
+    unit.meaning = unit.text.substr(at + means.size());
+    unit.text.resize(at);
+  }
   return unit;
 }
 

@@ -23,7 +23,8 @@ struct LogUnit {
   long firstByte = 0;  // us
   long lastByte = 0;
   bool fromTool = false;
-  std::string text;  // CR is \r, LF is \n
+  std::string text;     // CR is \r, LF is \n
+  std::string meaning;  // what the module did on a frame of a live test, such as "output 3 on"
 };
 
 class Stage : public ::testing::Test {
@@ -47,8 +48,9 @@ class Stage : public ::testing::Test {
   // Waits until the tool has ended well and left a copy of itself, which is the tool from then on.
   void FollowTool();
 
-  Desktop& desktop() { return *desktop_; }
+  Desktop& desktop() const { return *desktop_; }
   Process& tool() { return *tool_; }
+  Process& module() { return *module_; }
 
   // Waits until the widget is there and, if so wanted, enabled. Throws std::runtime_error, which
   // ends the test, when it never is or the tool has ended.
