@@ -1,5 +1,7 @@
 #include "shell/qt/field_view.h"
 
+#include <QRegularExpression>
+
 #include "shell/qt/button_view.h"
 #include "shell/qt/calendar_view.h"
 #include "shell/qt/check_view.h"
@@ -37,9 +39,12 @@ void WidgetView::Refresh() {
 }
 
 QString WidgetView::SpokenName() const {
-  // In some captions blanks stand for the field that is shown there.
-  if (!field_.caption.empty()) return ToQt(field_.caption).simplified();
-  return label_ == nullptr ? QString() : ToQt(label_->caption).simplified();
+  const std::string* caption = &field_.caption;
+  if (caption->empty() && label_ != nullptr) caption = &label_->caption;
+  // In some captions a row of blanks stands for the field that is shown there. Two are no such row:
+  // the sentences of actions have them.
+  static const QRegularExpression room(QStringLiteral(" {3,}"));
+  return ToQt(*caption).replace(room, QStringLiteral(" ")).trimmed();
 }
 
 void WidgetView::PushColour(QPalette::ColorRole behind, QPalette::ColorRole text) {
