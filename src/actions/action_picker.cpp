@@ -286,7 +286,7 @@ void ActionPicker::ShowKind(int kind) {
   type.enabled = false;
   if (row == variant_.types.end()) {
     // A display offers no actions, and no editor offers those of every other kind.
-    type.Show(Text(TextId::NoActions));
+    type.Show(Text(TextId::Dashes));
     return;
   }
   type.Show(Text(row->name));

@@ -174,7 +174,7 @@ void LoadClockTest() {
   for (ClockFields* clock : {&panel.master, &panel.pc}) {
     Show(clock->hourLabel.caption, TextId::ClockHour);
     Show(clock->dateLabel.caption, TextId::ClockDate);
-    Show(clock->weekdayLabel.caption, TextId::ClockWeekday);
+    Show(clock->weekdayLabel.caption, TextId::WeekdayCaption);
   }
   asked = false;
   panel.ask.onClick = Ask;

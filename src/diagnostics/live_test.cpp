@@ -97,7 +97,7 @@ void LoadLiveTests() {
            {LinkEvent::TestEnded, Finish},
            {LinkEvent::TransferLeft, Finish},
        })) {
-    LinkHandlers[static_cast<std::size_t>(row.event)] = row.handle;
+    Listen(row.event, row.handle);
   }
 }
 

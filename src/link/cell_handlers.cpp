@@ -106,15 +106,16 @@ struct DisplayRow {
   std::size_t indexFrom;  ///< the first of the characters up to 5 that tell the address
   int address;            ///< of cell 0
   int lastIndex;
+  std::optional<LinkEvent> complete = std::nullopt;
 };
 
 constexpr std::array<DisplayRow, 6> DisplayRows = {{
     {'1', &LcdHeader, 3, 0, 1},
-    {'2', &LcdScreen1, 2, 2000, 1019},
-    {'3', &LcdScreen1, 2, 2000, 1019},
-    {'4', &LcdScreen2, 2, 4000, 1019},
-    {'5', &LcdScreen2, 2, 4000, 1019},
-    {'6', &LcdWeekdayNames, 2, 6000, 20},
+    {'2', &LcdScreen1, 2, 2000, 1019, LinkEvent::DisplayRead},
+    {'3', &LcdScreen1, 2, 2000, 1019, LinkEvent::DisplayRead},
+    {'4', &LcdScreen2, 2, 4000, 1019, LinkEvent::DisplayRead},
+    {'5', &LcdScreen2, 2, 4000, 1019, LinkEvent::DisplayRead},
+    {'6', &LcdWeekdayNames, 2, 6000, 20, LinkEvent::WeekdayRead},
 }};
 
 /// Lines of the display module carry a four-digit address in characters 2 to 5, and the digit that
@@ -132,7 +133,7 @@ void HandleDisplayLine() {
     }
     // "STOP" does nothing more after a display's table.
     if (row.table != &LcdWeekdayNames) UnlockMenus();
-    CloseRead(LinkEvent::DisplayRead);
+    CloseRead(row.complete);
     return;
   }
 }

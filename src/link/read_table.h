@@ -80,7 +80,7 @@ inline constexpr auto ReadTable = std::to_array<ReadRow>({
      21,
      TextId::ReadingData,
      &LcdWeekdayLoaded,
-     LinkEvent::DisplayReadStarted},
+     LinkEvent::WeekdayReadStarted},
     // 292 is kept although the table ends at 293: a module never sends that cell.
     {{5}, ReadBase, &AlarmImage, 292, 294, TextId::ReadingData},
     {{6}, ReadBase, &AudioImage, 212, 213, TextId::ReadingData},

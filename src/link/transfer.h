@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "link/link_events.h"
@@ -15,6 +16,7 @@ namespace bkconf {
 /// The parts of the main window that transfers move. The main window fills this in when it is
 /// built.
 struct TransferWindow {
+  std::string* title = nullptr;
   LabelField* status = nullptr;
   ProgressField* bar = nullptr;
   ButtonField* connect = nullptr;

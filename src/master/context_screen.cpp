@@ -262,7 +262,7 @@ void LoadContextScreen() {
   ContextScreen.editConfirm.onClick = ConfirmEdit;
   ContextScreen.editLeave.onClick = [] { ShowFrame(nullptr); };
   ContextScreen.leave.onClick = [] { ContextScreen.Close(); };
-  LinkHandlers[static_cast<std::size_t>(LinkEvent::ContextsRead)] = OpenContextScreen;
+  Listen(LinkEvent::ContextsRead, OpenContextScreen);
 }
 
 void OpenContextScreen() {

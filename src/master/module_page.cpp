@@ -275,7 +275,7 @@ void LoadModulePage(ModulePageFields& ofWindow) {
   fields->addLeave.onClick = [] { ShowPanel(nullptr); };
   fields->deleteYes.onClick = ConfirmDelete;
   fields->deleteNo.onClick = [] { ShowPanel(nullptr); };
-  LinkHandlers[static_cast<std::size_t>(LinkEvent::ModuleListRead)] = DrawList;
+  Listen(LinkEvent::ModuleListRead, DrawList);
 }
 
 void SelectMaster() {

@@ -162,7 +162,7 @@ void ProgramScreen::LoadList(std::vector<GridField::Column> momentColumns) {
   editConfirm.onClick = [this] { Store(); };
   editLeave.onClick = [this] { ShowPanel(nullptr); };
   leave.onClick = [this] { Close(); };
-  LinkHandlers[static_cast<std::size_t>(list_.read)] = [this] { Open(Drawing::AfterRead); };
+  Listen(list_.read, [this] { Open(Drawing::AfterRead); });
 }
 
 void ProgramScreen::Open(Drawing drawing) {

@@ -48,6 +48,16 @@ void CalendarField::Pick(const Date& day) {
   if (onPick) onPick();
 }
 
+void ScrollField::Show(int value) {
+  value_ = std::clamp(value, lowest, highest);
+}
+
+void ScrollField::Move(int value) {
+  if (!enabled || !visible || std::clamp(value, lowest, highest) == value_) return;
+  Show(value);
+  if (onMove) onMove();
+}
+
 void ListBoxField::SetItems(std::vector<std::string> items) {
   items_ = std::move(items);
   index_ = -1;

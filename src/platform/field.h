@@ -27,6 +27,8 @@ enum class FieldKind {
   Option,
   Grid,
   Calendar,
+  Scroll,
+  DayBand,
   Button,
   Progress,
   Picture,
@@ -55,7 +57,8 @@ struct Field {
   const std::string name;  ///< stable and unique in its screen; also the widget's object name
   std::string caption;
   std::string toolTip;
-  std::optional<Colour> colour;  ///< none for what the window has by itself
+  std::optional<Colour> colour;      ///< behind the text; none for what the window has by itself
+  std::optional<Colour> textColour;  ///< of the text; likewise
   bool enabled = true;
   bool visible = true;
 };
@@ -254,6 +257,42 @@ struct CalendarField : Field {
 
  private:
   Date day_;
+};
+
+/// A handle that the user moves between two ends.
+struct ScrollField : Field {
+  ScrollField(Screen& screen, std::string_view fieldName)
+      : Field(screen, FieldKind::Scroll, fieldName) {}
+
+  int lowest = 0;
+  int highest = 100;
+  int step = 1;                  ///< of one touch of an arrow
+  std::function<void()> onMove;  ///< runs after the user moved it
+
+  int Value() const { return value_; }
+  /// Puts it there, without running the handler. Beyond an end it stays at the end.
+  void Show(int value);
+  /// Moves it, as a user does. Disabled or hidden, or at that place already, it changes nothing.
+  void Move(int value);
+
+ private:
+  int value_ = 0;
+};
+
+/// A day as a band of 24 hours, drawn in parts of one colour each. There is nothing to do in it.
+struct DayBandField : Field {
+  DayBandField(Screen& screen, std::string_view fieldName)
+      : Field(screen, FieldKind::DayBand, fieldName) {}
+
+  struct Part {
+    int from = 0;  ///< in minutes
+    int to = 0;    ///< at most 1440; before `from` it goes on across midnight
+    std::string text;
+    Colour colour;
+
+    friend bool operator==(const Part&, const Part&) = default;
+  };
+  std::vector<Part> parts;
 };
 
 /// A button. Without a handler it is shown disabled, since there is nothing that it could do.

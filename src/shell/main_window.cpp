@@ -293,8 +293,11 @@ constexpr auto AddressFlags =
 /// The letter goes to the module with the rest of its table.
 void PickAddress(const ListField& list) {
   const ModuleKind* kind = ActiveKind();
-  CellAt(kind->address) = static_cast<int>(list.Text().front());
+  const int letter = list.Text().front();
+  const bool another = CellAt(kind->address).Number() != letter;
+  CellAt(kind->address) = letter;
   SignalChange();
+  if (!another) return;
   for (const AddressFlag& row : AddressFlags) {
     if (row.kind == kind->code) *row.dirty = 1;
   }
@@ -350,7 +353,8 @@ void ShowCaptions() {
 }
 
 void FillTransferWindow() {
-  Window = {.status = &MainWindow.status,
+  Window = {.title = &MainWindow.title,
+            .status = &MainWindow.status,
             .bar = &MainWindow.transferBar,
             .connect = &MainWindow.connect,
             .send = &MainWindow.send,

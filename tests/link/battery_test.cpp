@@ -413,7 +413,7 @@ TEST_F(FaultTest, AScreenIsToldThatItsTransferWasLeft) {
   Plug(3);
   ReadModule();
   int left = 0;
-  LinkHandlers[static_cast<std::size_t>(LinkEvent::TransferLeft)] = [&] { ++left; };
+  LinkHandlers[static_cast<std::size_t>(LinkEvent::TransferLeft)] = {[&] { ++left; }};
   Plug(3, Fault::IndexBeyondTable);
   ASSERT_TRUE(StartRequest("T81000"));
   RunWithHandler(60'000);

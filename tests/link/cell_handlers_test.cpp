@@ -164,7 +164,7 @@ TEST_F(CellHandlersTest, RelaysAndDimmersKeepTheirVersionForTheLiveTests) {
 TEST_F(CellHandlersTest, ABaseReadOfTheMasterClearsItsFourDirtyFlagsAndDrawsItsModuleList) {
   Begin(9, "T80000", 164);
   int drawn = 0;
-  LinkHandlers[static_cast<std::size_t>(LinkEvent::ModuleListRead)] = [&] { ++drawn; };
+  LinkHandlers[static_cast<std::size_t>(LinkEvent::ModuleListRead)] = {[&] { ++drawn; }};
   MasterBaseDirty = MasterContextsDirty = MasterTimeDirty = MasterLightDirty = 1;
   const Snapshot before = TakeSnapshot();
   Handle("C0163021");
@@ -206,7 +206,7 @@ TEST_F(CellHandlersTest, AnAdditionalMasterTableIsReadyAtCell999AndTheWindowWait
 TEST_F(CellHandlersTest, TheModuleScanFillsTheDirectoryWithoutABar) {
   Begin(9, "T80400", 0);
   int drawn = 0;
-  LinkHandlers[static_cast<std::size_t>(LinkEvent::ModuleListRead)] = [&] { ++drawn; };
+  LinkHandlers[static_cast<std::size_t>(LinkEvent::ModuleListRead)] = {[&] { ++drawn; }};
   const Snapshot before = TakeSnapshot();
   Handle("C0123065");
   EXPECT_EQ(drawn, 0);
@@ -286,7 +286,7 @@ TEST_F(CellHandlersTest, AdditionalTemperatureTablesCloseAtTheirLastCell) {
   for (const auto& each : cases) {
     Begin(2, each.command, 1008);
     int read = 0;
-    LinkHandlers[static_cast<std::size_t>(LinkEvent::TemperatureRead)] = [&] { ++read; };
+    LinkHandlers[static_cast<std::size_t>(LinkEvent::TemperatureRead)] = {[&] { ++read; }};
     Handle(each.line);
     EXPECT_TRUE(ReadIsClosed());
     EXPECT_TRUE(ButtonsAreBack());
@@ -298,7 +298,7 @@ TEST_F(CellHandlersTest, AdditionalTemperatureTablesCloseAtTheirLastCell) {
 TEST_F(CellHandlersTest, LiveTemperaturesAreStoredAndToldAndCloseAtRoomEight) {
   Begin(2, "T83000", 8);
   int told = 0;
-  LinkHandlers[static_cast<std::size_t>(LinkEvent::LiveTemperature)] = [&] { ++told; };
+  LinkHandlers[static_cast<std::size_t>(LinkEvent::LiveTemperature)] = {[&] { ++told; }};
   Handle("M2064021");
   EXPECT_EQ(TempRoomIds[64], Cell(21));
   EXPECT_EQ(told, 1);
@@ -392,7 +392,7 @@ TEST_F(CellHandlersTest, AReadThatASendRepeatsTellsNoScreen) {
     Begin(each.kind, "T81000", 1020);
     WriteInProgress = 1;
     int told = 0;
-    for (auto& handler : LinkHandlers) handler = [&] { ++told; };
+    for (auto& handlers : LinkHandlers) handlers = {[&] { ++told; }};
     Handle(each.line);
     EXPECT_EQ(told, 0) << each.line;
     EXPECT_EQ(WriteInProgress, Cell(0));
@@ -434,7 +434,7 @@ TEST_F(CellHandlersTest, ADisplayTableFreesTheWholeWindowAtItsLastCell) {
   for (const char* received : {"M3019000", "M5019000"}) {
     Begin(3, "T81000", 1020);
     int read = 0;
-    LinkHandlers[static_cast<std::size_t>(LinkEvent::DisplayRead)] = [&] { ++read; };
+    LinkHandlers[static_cast<std::size_t>(LinkEvent::DisplayRead)] = {[&] { ++read; }};
     Handle(received);
     EXPECT_TRUE(ReadIsClosed());
     EXPECT_TRUE(ButtonsAreBack());
@@ -447,7 +447,7 @@ TEST_F(CellHandlersTest, ADisplayTableFreesTheWholeWindowAtItsLastCell) {
 TEST_F(CellHandlersTest, TheWeekdayNamesCloseAtTheirLastCellAndTheMenusWaitForStop) {
   Begin(3, "T85000", 21);
   int read = 0;
-  LinkHandlers[static_cast<std::size_t>(LinkEvent::DisplayRead)] = [&] { ++read; };
+  LinkHandlers[static_cast<std::size_t>(LinkEvent::DisplayRead)] = {[&] { ++read; }};
   Handle("M6020032");
   EXPECT_TRUE(ReadIsClosed());
   EXPECT_TRUE(ButtonsAreBack());

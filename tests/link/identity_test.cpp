@@ -236,7 +236,7 @@ INSTANTIATE_TEST_SUITE_P(Commands, SetupStepTest, testing::ValuesIn(SetupCases),
 TEST_F(IdentityTest, ALiveTestIsAnnouncedToItsScreen) {
   int started = 0;
   Start();
-  LinkHandlers[static_cast<std::size_t>(LinkEvent::TestStarted)] = [&] { ++started; };
+  LinkHandlers[static_cast<std::size_t>(LinkEvent::TestStarted)] = {[&] { ++started; }};
   PendingCommand = "T80100";
   ASSERT_TRUE(StartTransfer());
   RxLine = "DISPL0";
@@ -248,7 +248,7 @@ TEST_F(IdentityTest, AReadOnDemandIsAnnouncedToItsScreenAndARepeatedOneIsNot) {
   for (const int writeInProgress : {0, 1}) {
     int started = 0;
     Start();
-    LinkHandlers[static_cast<std::size_t>(LinkEvent::DisplayReadStarted)] = [&] { ++started; };
+    LinkHandlers[static_cast<std::size_t>(LinkEvent::DisplayReadStarted)] = {[&] { ++started; }};
     PendingCommand = "T81000";
     ASSERT_TRUE(StartTransfer());
     WriteInProgress = writeInProgress;

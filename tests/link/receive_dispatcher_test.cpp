@@ -37,7 +37,7 @@ class ReceiveDispatcherTest : public SessionTest {
     RxLine = received;
     Seen seen{};
     for (std::size_t i = 0; i < LinkEventCount; ++i) {
-      LinkHandlers[i] = [&seen, i] { seen.events.push_back(static_cast<LinkEvent>(i)); };
+      LinkHandlers[i] = {[&seen, i] { seen.events.push_back(static_cast<LinkEvent>(i)); }};
     }
     ReceiveDispatcher();
     seen.lineEmptied = RxLine.empty();
@@ -153,7 +153,7 @@ TEST_F(ReceiveDispatcherTest, AScreenThatStartsTheNextTransferIsNotDisturbed) {
   ASSERT_TRUE(StartTransfer());
   WakeUpWait.Disable();
   MainWindow.transferBar.Start(2000);
-  LinkHandlers[static_cast<std::size_t>(LinkEvent::DisplayRead)] = [] { StartRequest("T83000"); };
+  LinkHandlers[static_cast<std::size_t>(LinkEvent::DisplayRead)] = {[] { StartRequest("T83000"); }};
   RxLine = "M3019000";
   ReceiveDispatcher();
   EXPECT_FALSE(LinkTick.Enabled());
@@ -166,7 +166,7 @@ TEST_F(ReceiveDispatcherTest, NoScreenOpensAtTheEndOfAReadThatASendRepeats) {
   ActiveModuleType = 9;
   PendingCommand = "T81000";
   int opened = 0;
-  LinkHandlers[static_cast<std::size_t>(LinkEvent::ContextsRead)] = [&] { ++opened; };
+  LinkHandlers[static_cast<std::size_t>(LinkEvent::ContextsRead)] = {[&] { ++opened; }};
   for (const int sent : {0, 1}) {
     WriteInProgress = sent;
     RxLine = "STOP";
