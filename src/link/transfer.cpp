@@ -78,6 +78,17 @@ void CloseRead(std::optional<LinkEvent> told) {
   if (told && awaited) Raise(*told);
 }
 
+void LendBar(ProgressField& bar) {
+  Window.ownBar->visible = false;
+  bar.Start(Window.ownBar->Maximum());
+  Window.bar = &bar;
+}
+
+void ReturnBar() {
+  if (Window.bar != Window.ownBar) Window.bar->visible = false;
+  Window.bar = Window.ownBar;
+}
+
 void StopLink() {
   for (Tick* tick : LinkTicks) tick->Disable();
 }

@@ -18,7 +18,8 @@ namespace bkconf {
 struct TransferWindow {
   std::string* title = nullptr;
   LabelField* status = nullptr;
-  ProgressField* bar = nullptr;
+  ProgressField* bar = nullptr;  ///< that moves at the moment
+  ProgressField* ownBar = nullptr;
   ButtonField* connect = nullptr;
   ButtonField* send = nullptr;
   std::function<void(bool)> enableMenus;              ///< the four menus and the selection list
@@ -65,6 +66,12 @@ void CloseRead(std::optional<LinkEvent> told = std::nullopt);
 
 /// The end of a live test: the link does nothing more, "Ready", and everything is given back.
 void EndTest();
+
+/// Lets the bar of a screen take the place of the main window's for the read that has begun: it
+/// gets that one's end.
+void LendBar(ProgressField& bar);
+/// Gives the main window its bar back, however the read ended.
+void ReturnBar();
 
 /// Ends what the link does at the moment, wherever it stands. The window is not touched.
 void StopLink();

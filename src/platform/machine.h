@@ -41,6 +41,10 @@ class MessageBoxes {
   virtual ~MessageBoxes() = default;
   /// A message with one button.
   virtual void Tell(const std::string& text) = 0;
+  /// A message with a title and the buttons OK and Cancel. The answer comes later, as an event of
+  /// its own: true for OK.
+  virtual void Ask(const std::string& title, const std::string& text,
+                   std::function<void(bool)> answer) = 0;
 };
 
 /// Files in the settings directory and the user's own.

@@ -11,6 +11,9 @@
 #include "output/output_screen.h"
 #include "shell/action_buttons.h"
 #include "special/alarm_screen.h"
+#include "special/display_menu_screen.h"
+#include "special/temperature_screen.h"
+#include "special/weekday_text_screen.h"
 
 namespace bkconf {
 namespace {
@@ -31,11 +34,18 @@ constexpr auto Openers = std::to_array<Opener>({
     {Action::Configuration, OpenModulePage},
     {Action::Detectors, OpenAlarmScreen},
     {Action::Diagnostics, OpenDiagnosticsScreen},
+    {Action::RoomIds, OpenRoomIds},
+    {Action::RoomProgram, OpenRoomProgram},
+    {Action::LiveTemperatures, OpenLiveTemperatures},
+    {Action::Display1, OpenDisplay1},
+    {Action::Display2, OpenDisplay2},
+    {Action::DisplayGeneral, OpenWeekdayTexts},
 });
 
 constexpr auto Loaders = std::to_array<void (*)()>(
     {LoadButtonScreen, LoadOutputScreen, LoadContextScreen, LoadTimeProgramScreen,
-     LoadLightProgramScreen, LoadAlarmScreen, LoadDiagnosticsScreen});
+     LoadLightProgramScreen, LoadAlarmScreen, LoadDiagnosticsScreen, LoadTemperatureScreen,
+     LoadDisplayMenuScreen, LoadWeekdayTextScreen});
 
 }  // namespace
 

@@ -356,6 +356,7 @@ void FillTransferWindow() {
   Window = {.title = &MainWindow.title,
             .status = &MainWindow.status,
             .bar = &MainWindow.transferBar,
+            .ownBar = &MainWindow.transferBar,
             .connect = &MainWindow.connect,
             .send = &MainWindow.send,
             .enableMenus = EnableMenus,

@@ -74,6 +74,7 @@ TemperatureScreenFields::TemperatureScreenFields()
       program(*this),
       live(*this),
       status(*this, "status"),
+      bar(*this, "bar"),
       leave(*this, "leave") {}
 
 // --- The list of rooms --------------------------------------------------------------------------
@@ -167,10 +168,12 @@ void BeginRead() {
   look->fill();
   Enable(false);
   if (!IsLive()) Show(TemperatureScreen.status.caption, TextId::ReadingData);
+  LendBar(TemperatureScreen.bar);
   Reveal();
 }
 
 void EndRead() {
+  ReturnBar();
   if (!TemperatureScreen.shown) return;
   if (!IsLive()) look->fill();
   Show(TemperatureScreen.status.caption, IsLive() ? TextId::LiveTemperaturesEnd : TextId::EditMode);
@@ -180,7 +183,7 @@ void EndRead() {
 /// What has come can be looked at.
 void LeaveRead() {
   awaited = false;
-  if (TemperatureScreen.shown) EndRead();
+  EndRead();
 }
 
 void Leave() {

@@ -93,6 +93,7 @@ struct TemperatureScreenFields : Screen {
   RoomProgramFields program;
   LiveTemperatureFields live;
   LabelField status;
+  ProgressField bar;
   ButtonField leave;
 };
 

@@ -24,6 +24,9 @@
 #include "shell/open_dialog.h"
 #include "shell/save_dialog.h"
 #include "special/alarm_screen.h"
+#include "special/display_menu_screen.h"
+#include "special/temperature_screen.h"
+#include "special/weekday_text_screen.h"
 
 namespace bkconf {
 namespace {
@@ -59,6 +62,9 @@ void ResetGlobals() {
   MakeAnew(LightProgramScreen);
   MakeAnew(AlarmScreen);
   MakeAnew(DiagnosticsScreen);
+  MakeAnew(TemperatureScreen);
+  MakeAnew(DisplayMenuScreen);
+  MakeAnew(WeekdayTextScreen);
 }
 
 void DisableTicks() {

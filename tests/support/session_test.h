@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -25,7 +26,13 @@ namespace bkconf {
 class FakeMessages : public MessageBoxes {
  public:
   void Tell(const std::string& text) override { told.push_back(text); }
+  void Ask(const std::string& title, const std::string& text,
+           std::function<void(bool)> answer) override {
+    told.push_back(title + ": " + text);
+    asked = std::move(answer);
+  }
   std::vector<std::string> told;
+  std::function<void(bool)> asked;  ///< answers the last question
 };
 
 /// Files by path, in memory.

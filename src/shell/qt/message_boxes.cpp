@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "shell/main_window.h"
+#include "shell/qt/event_guard.h"
 #include "shell/qt/screen_window.h"
 
 namespace bkconf {
@@ -35,6 +36,16 @@ QMessageBox* ShowBox(QMessageBox::Icon icon, const QString& text, const QString&
 
 void QtMessageBoxes::Tell(const std::string& text) {
   ShowBox(QMessageBox::Information, ToQt(text));
+}
+
+void QtMessageBoxes::Ask(const std::string& title, const std::string& text,
+                         std::function<void(bool)> answer) {
+  QMessageBox* box = ShowBox(QMessageBox::Warning, ToQt(text));
+  box->setWindowTitle(ToQt(title));
+  box->setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+  QObject::connect(box, &QMessageBox::finished, box, [answer](int button) {
+    RunEvent([&] { answer(button == QMessageBox::Ok); });
+  });
 }
 
 }  // namespace bkconf

@@ -15,6 +15,8 @@ QMessageBox* ShowBox(QMessageBox::Icon icon, const QString& text, const QString&
 class QtMessageBoxes : public MessageBoxes {
  public:
   void Tell(const std::string& text) override;
+  void Ask(const std::string& title, const std::string& text,
+           std::function<void(bool)> answer) override;
 };
 
 }  // namespace bkconf
