@@ -259,6 +259,12 @@ void ActionPicker::HideLower() {
 
 void ActionPicker::PickLetter() {
   HideLower();
+  if (refusesLetter && refusesLetter()) {
+    type.Clear();
+    type.enabled = false;
+    TellTarget();
+    return;
+  }
   AskType();
   if (Letter() == ContextLetter) {
     OfferContexts();

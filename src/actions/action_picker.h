@@ -170,6 +170,8 @@ class ActionPicker {
   bool TargetKnown() const;
   /// Runs after letter or type changed, by a pick or by `Reset`.
   std::function<void()> onTarget;
+  /// A letter that the editor takes for no target: nothing opens below it then.
+  std::function<bool()> refusesLetter;
 
   LabelField heading;
   LabelField letterLabel;

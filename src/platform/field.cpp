@@ -58,6 +58,12 @@ void ScrollField::Move(int value) {
   if (onMove) onMove();
 }
 
+void AreaPictureField::Pick(int area) {
+  if (!enabled || !visible || area < 0 || area >= static_cast<int>(areas.size())) return;
+  picked_ = area;
+  if (onPick) onPick();
+}
+
 void ListBoxField::SetItems(std::vector<std::string> items) {
   items_ = std::move(items);
   index_ = -1;

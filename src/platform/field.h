@@ -32,6 +32,7 @@ enum class FieldKind {
   Button,
   Progress,
   Picture,
+  AreaPicture,
   Manual,
   Menu
 };
@@ -339,6 +340,33 @@ struct PictureField : Field {
       : Field(screen, FieldKind::Picture, fieldName) {}
 
   std::string file;
+};
+
+/// A picture with areas in it that the user picks by a click or with the keyboard.
+struct AreaPictureField : Field {
+  AreaPictureField(Screen& screen, std::string_view fieldName)
+      : Field(screen, FieldKind::AreaPicture, fieldName) {}
+
+  /// In thousandths of the picture's width and height.
+  struct Area {
+    std::string name;  ///< what it is called
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+  };
+
+  std::string file;  ///< in the settings directory; one that cannot be shown shows only the areas
+  std::vector<Area> areas;
+  std::function<void()> onPick;  ///< runs after an area was picked, also the same one again
+
+  int Picked() const { return picked_; }  ///< -1 when none is
+  void ClearPick() { picked_ = -1; }
+  /// Disabled or hidden, or for an area that is none, it changes nothing.
+  void Pick(int area);
+
+ private:
+  int picked_ = -1;
 };
 
 /// A document by its file name in the settings directory; a file that cannot be shown shows

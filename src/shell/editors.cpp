@@ -11,7 +11,10 @@
 #include "output/output_screen.h"
 #include "shell/action_buttons.h"
 #include "special/alarm_screen.h"
+#include "special/audio_screen.h"
 #include "special/display_menu_screen.h"
+#include "special/ir_screen.h"
+#include "special/simulation_screen.h"
 #include "special/temperature_screen.h"
 #include "special/weekday_text_screen.h"
 
@@ -40,12 +43,16 @@ constexpr auto Openers = std::to_array<Opener>({
     {Action::Display1, OpenDisplay1},
     {Action::Display2, OpenDisplay2},
     {Action::DisplayGeneral, OpenWeekdayTexts},
+    {Action::AudioSettings, OpenAudioScreen},
+    {Action::SimulationSettings, OpenSimulationScreen},
+    {Action::IrSettings, OpenIrScreen},
 });
 
 constexpr auto Loaders = std::to_array<void (*)()>(
     {LoadButtonScreen, LoadOutputScreen, LoadContextScreen, LoadTimeProgramScreen,
      LoadLightProgramScreen, LoadAlarmScreen, LoadDiagnosticsScreen, LoadTemperatureScreen,
-     LoadDisplayMenuScreen, LoadWeekdayTextScreen});
+     LoadDisplayMenuScreen, LoadWeekdayTextScreen, LoadAudioScreen, LoadSimulationScreen,
+     LoadIrScreen});
 
 }  // namespace
 

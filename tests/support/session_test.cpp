@@ -24,7 +24,10 @@
 #include "shell/open_dialog.h"
 #include "shell/save_dialog.h"
 #include "special/alarm_screen.h"
+#include "special/audio_screen.h"
 #include "special/display_menu_screen.h"
+#include "special/ir_screen.h"
+#include "special/simulation_screen.h"
 #include "special/temperature_screen.h"
 #include "special/weekday_text_screen.h"
 
@@ -65,6 +68,9 @@ void ResetGlobals() {
   MakeAnew(TemperatureScreen);
   MakeAnew(DisplayMenuScreen);
   MakeAnew(WeekdayTextScreen);
+  MakeAnew(AudioScreen);
+  MakeAnew(SimulationScreen);
+  MakeAnew(IrScreen);
 }
 
 void DisableTicks() {
