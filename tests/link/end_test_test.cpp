@@ -32,7 +32,7 @@ TEST_F(EndTestTest, ThePortStaysOpenAndNobodyIsTold) {
   StartWithImage(0);
   ASSERT_TRUE(StartRequest("T80200"));
   int told = 0;
-  for (auto& handler : LinkHandlers) handler = [&told] { ++told; };
+  for (auto& handlers : LinkHandlers) handlers = {[&told] { ++told; }};
   const Snapshot before = TakeSnapshot();
   EndTest();
   EXPECT_TRUE(line.IsOpen());
