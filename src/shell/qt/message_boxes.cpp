@@ -43,9 +43,8 @@ void QtMessageBoxes::Ask(const std::string& title, const std::string& text,
   QMessageBox* box = ShowBox(QMessageBox::Warning, ToQt(text));
   box->setWindowTitle(ToQt(title));
   box->setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
-  QObject::connect(box, &QMessageBox::finished, box, [answer](int button) {
-    RunEvent([&] { answer(button == QMessageBox::Ok); });
-  });
+  QObject::connect(box, &QMessageBox::finished, box,
+                   [answer](int button) { RunEvent([&] { answer(button == QMessageBox::Ok); }); });
 }
 
 }  // namespace bkconf
