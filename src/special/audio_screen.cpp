@@ -138,9 +138,10 @@ void ShowSurround() {
 /// In surround the first zone plays the first source.
 void PickZone() {
   ShowSurround();
-  if (IsSurround() && Zone() == 0 && AudioImage[SourceCell].Number() != 0) {
+  if (IsSurround() && Zone() == 0) {
+    const bool changes = AudioImage[SourceCell].Number() != 0;
     AudioImage[SourceCell] = 0;
-    SignalChange();
+    if (changes) SignalChange();
   }
   ShowZone();
   EnableZoneFields();
