@@ -137,6 +137,7 @@ bool Add(const Cell& index) {
   if (participant == Participants) return false;
   TargetCell(participant) = static_cast<int>(SimulationScreen.letter.Text().front());
   IndexCell(participant) = index;
+  SignalChange();
   return true;
 }
 
@@ -231,7 +232,8 @@ void AddSwitches() {
   }
 }
 
-/// What is not complete is not stored, and nothing is said.
+/// What is not complete is not stored, and nothing is said. With no switch on there is nothing to
+/// store either.
 void Confirm() {
   if (!SimulationScreen.editGroup.visible || Letter() == '\0') return;
   if (SimulationScreen.number.visible) {
@@ -243,7 +245,6 @@ void Confirm() {
   }
   ShowParticipants();
   ShowEditor(false);
-  SignalChange();
 }
 
 void DoubleClick(int row, int column) {
