@@ -79,6 +79,11 @@ void LoadId(IdFields& fields, Table& table) {
   }
 }
 
+void BlankIds() {
+  BlankId(Ids().sensor);
+  BlankId(Ids().led);
+}
+
 void PickRoom() {
   ShowId(Ids().sensor, TempRoomIds);
   ShowId(Ids().led, TempTail);
@@ -104,8 +109,8 @@ void ShowLetter() {
 
 void ShowOutput() {
   constexpr int twoDigits = 9;
-  const int place = OutputCell().Whole();
-  Ids().output.Show(place < twoDigits ? TwoDigits(101 + place) : std::to_string(place + 1));
+  const double place = OutputCell().Number();
+  Ids().output.Show(place < twoDigits ? TwoDigits(101 + place) : PlainText(place + 1));
 }
 
 /// The text tells where on this module; the fields tell where on another one.
@@ -181,8 +186,8 @@ void ShowCaptions() {
 
 void LoadRoomIds() {
   ShowCaptions();
-  LoadRoomList(Ids().room);
-  LoadRoomList(Ids().valve);
+  LoadRoomList(Ids().room, BlankIds);
+  LoadRoomList(Ids().valve, BlankValve);
   LoadId(Ids().sensor, TempRoomIds);
   LoadId(Ids().led, TempTail);
   Ids().letter.items.clear();
@@ -206,8 +211,7 @@ void FillRoomIds() {
   std::vector<std::string> valves = RoomNames();
   valves.emplace_back(Text(TextId::Pump));
   AskRoom(Ids().valve, std::move(valves));
-  BlankId(Ids().sensor);
-  BlankId(Ids().led);
+  BlankIds();
   BlankValve();
 }
 

@@ -1,6 +1,8 @@
 // The periods of each day of the week, room by room, and the temperature in each of them.
 #include <algorithm>
 #include <array>
+#include <cstdlib>
+#include <optional>
 
 #include "actions/action_code.h"
 #include "image/tables.h"
@@ -19,6 +21,8 @@ constexpr int SetpointCells = PeriodsOfDay;
 constexpr int Hour = 60;
 constexpr int FurthestScroll = 3000;
 constexpr int ScrollStep = 5;
+/// A file may hold any number. Beyond this one no scroll reaches, and counting in steps takes long.
+constexpr int FurthestCell = 9999;
 constexpr int HighestSetpoint = 40;
 /// Below the one a temperature is cold, from the other on it is hot.
 constexpr int FirstMild = 11;
@@ -56,11 +60,15 @@ Cell& SetpointCell(int period) {
   return TempSetpoints[WeekDays * SetpointCells * Program().room.Index() + TempDaySetBase + period];
 }
 
+int Counted(const Cell& cell) {
+  return std::clamp(cell.Whole(), -FurthestCell, FurthestCell);
+}
+
 DayBoundaries Boundaries() {
   DayBoundaries day{};
   for (int boundary = 0; boundary < PeriodsOfDay; ++boundary) {
     day[static_cast<std::size_t>(boundary)] =
-        Hour * HourCell(boundary).Whole() + MinuteCell(boundary).Whole();
+        Hour * Counted(HourCell(boundary)) + Counted(MinuteCell(boundary));
   }
   return day;
 }
@@ -79,8 +87,8 @@ Colour ColourOf(int degrees, Colour usual) {
 
 /// Both ends of neighbouring periods show the boundary between them.
 void ShowBoundary(int boundary, Colour colour) {
-  const std::string text = TwoDigits(100 + HourCell(boundary).Whole()) + ":" +
-                           TwoDigits(100 + MinuteCell(boundary).Whole());
+  const std::string text = TwoDigits(100 + Counted(HourCell(boundary))) + ":" +
+                           TwoDigits(100 + Counted(MinuteCell(boundary)));
   for (LabelField* label : {&Row(boundary).from, &Row(boundary - 1).to}) {
     label->caption = text;
     label->textColour = colour;
@@ -98,6 +106,12 @@ void ShowSetpoint(int period, Colour usual) {
   Row(period).setpoint.textColour = ColourOf(degrees, usual);
 }
 
+/// Where the band shows it: evenings may go on past midnight, with hours from 24 on.
+int OnBand(int minutes) {
+  const int rest = minutes % MinutesOfDay;
+  return rest < 0 ? rest + MinutesOfDay : rest;
+}
+
 /// The tables as a picture, whatever was touched.
 void DrawBand() {
   const DayBoundaries day = Boundaries();
@@ -105,9 +119,10 @@ void DrawBand() {
   band.parts.clear();
   for (int period = 0; period < PeriodsOfDay; ++period) {
     const int degrees = SetpointCell(period).Whole();
-    const auto next = static_cast<std::size_t>((period + 1) % PeriodsOfDay);
-    band.parts.push_back({day[static_cast<std::size_t>(period)], day[next],
-                          std::to_string(degrees) + "°C", ColourOf(degrees, QuietColour)});
+    const int end = day[static_cast<std::size_t>((period + 1) % PeriodsOfDay)];
+    band.parts.push_back({OnBand(day[static_cast<std::size_t>(period)]),
+                          end == MinutesOfDay ? end : OnBand(end), std::to_string(degrees) + "°C",
+                          ColourOf(degrees, QuietColour)});
   }
 }
 
@@ -177,12 +192,12 @@ bool IsUntouched(int moved) {
   return true;
 }
 
-/// The place in the range that is reached from there in steps. None where the range holds none.
+/// The place in the range that is reached from there in steps. None where the range holds none, or
+/// the scroll ends before it.
 std::optional<int> Spring(int minutes, const BoundaryRange& range) {
   while (minutes < range.lowest) minutes += ScrollStep;
-  if (minutes <= range.highest) return minutes;
   while (minutes > range.highest) minutes -= ScrollStep;
-  if (minutes < range.lowest) return std::nullopt;
+  if (minutes < range.lowest || std::abs(minutes) > FurthestScroll) return std::nullopt;
   return minutes;
 }
 
@@ -235,7 +250,7 @@ void LoadRoomProgram() {
   Show(Program().periodsGroup.caption, TextId::PeriodsTitle);
   Show(Program().setpointsGroup.caption, TextId::SetpointsTitle);
   Show(Program().daysGroup.caption, TextId::WeekdayCaption);
-  LoadRoomList(Program().room);
+  LoadRoomList(Program().room, [] { ShowGroups(false); });
   Program().room.onPick = PickRoom;
   for (int period = 0; period < PeriodsOfDay; ++period) LoadPeriod(period);
   for (int day = 0; day < WeekDays; ++day) {

@@ -12,10 +12,11 @@ namespace bkconf {
 /// "Ruimte 1" and so on, for the rooms that the module has.
 std::vector<std::string> RoomNames();
 
-/// Fills a list of rooms: none picked, and the question which one. What is typed and is no item
-/// brings the question back.
+/// Fills a list of rooms: none picked, and the question which one.
 void AskRoom(ListField& list, std::vector<std::string> items);
-void LoadRoomList(ListField& list);
+/// What is typed and is no item brings the question back. No room is picked then, so `blank` takes
+/// away what belongs to one.
+void LoadRoomList(ListField& list, void (*blank)());
 
 /// Captions and handlers of a look, once at start-up.
 void LoadRoomIds();

@@ -93,10 +93,11 @@ void AskRoom(ListField& list, std::vector<std::string> items) {
   list.Show(Text(TextId::RoomPrompt));
 }
 
-void LoadRoomList(ListField& list) {
-  list.onTyped = [&list] {
+void LoadRoomList(ListField& list, void (*blank)()) {
+  list.onTyped = [&list, blank] {
     if (list.Index() < 0) {
       list.Show(Text(TextId::RoomPrompt));
+      blank();
     } else {
       list.onPick();
     }
