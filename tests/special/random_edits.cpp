@@ -26,13 +26,21 @@ std::string RandomEdits::AnyText() {
 }
 
 void RandomEdits::Step() {
-  Field& field = *fields_[static_cast<std::size_t>(Below(static_cast<int>(fields_.size())))];
+  StepIn(*fields_[static_cast<std::size_t>(Below(static_cast<int>(fields_.size())))]);
+}
+
+void RandomEdits::StepIn(Field& field) {
   if (auto* list = dynamic_cast<ListField*>(&field)) {
     if (Below(5) == 0) {
       list->Type(AnyText());
     } else {
       list->Pick(PlaceIn(static_cast<int>(list->items.size())));
     }
+  } else if (auto* text = dynamic_cast<TextField*>(&field)) {
+    // Also more than there is room for.
+    text->Type(AnyText() + AnyText() + AnyText() + AnyText());
+  } else if (auto* entries = dynamic_cast<ListBoxField*>(&field)) {
+    entries->Pick(PlaceIn(static_cast<int>(entries->Items().size())));
   } else if (auto* box = dynamic_cast<CheckField*>(&field)) {
     box->Set(Below(2) == 0);
   } else if (auto* option = dynamic_cast<OptionField*>(&field)) {

@@ -19,6 +19,8 @@ class RandomEdits {
 
   /// One thing in one field, also what the field does not have.
   void Step();
+  /// The same in this field.
+  void StepIn(Field& field);
 
  private:
   /// 0 to `count` - 1.
