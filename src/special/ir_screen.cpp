@@ -105,6 +105,7 @@ void PickKey() {
   IrScreen.listGroup.visible = IrScreen.editGroup.visible = IrScreen.copy.visible = true;
   IrScreen.row.Clear();
   IrScreen.picker.Reset();
+  IrScreen.store.enabled = true;
   ShowKeyTitle();
   ShowRows();
 }
@@ -116,10 +117,12 @@ bool RefuseOwnLetter() {
   return own;
 }
 
+/// One store fills one row: the next needs its row, or its key, picked first.
 void Put(const ActionCells& cells) {
   const int cell = ActionCell(IrScreen.row.Index());
   for (int i = 0; i < ActionSize; ++i) IrImage[cell + i] = cells[static_cast<std::size_t>(i)];
   ShowRows();
+  IrScreen.store.enabled = false;
   SignalChange();
 }
 
@@ -137,6 +140,7 @@ void Store() {
 }
 
 void Erase(int row) {
+  if (IrScreen.remote.Picked() < 0) return;
   EraseAction(IrImage, ActionCell(row));
   ShowRow(row);
   SignalChange();
@@ -198,6 +202,7 @@ void LoadIrScreen() {
     Show(fields.erase.caption, TextId::EraseRow);
     fields.erase.onClick = [row] { Erase(row); };
   }
+  IrScreen.row.onPick = [] { IrScreen.store.enabled = true; };
   IrScreen.store.onClick = Store;
   IrScreen.leave.onClick = [] { IrScreen.Close(); };
 }
