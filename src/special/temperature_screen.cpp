@@ -176,7 +176,6 @@ void BeginRead() {
 void EndRead() {
   ReturnBar();
   if (!TemperatureScreen.shown) return;
-  if (!IsLive()) look->fill();
   Show(TemperatureScreen.status.caption, IsLive() ? TextId::LiveTemperaturesEnd : TextId::EditMode);
   Enable(true);
 }
