@@ -1,18 +1,16 @@
 // What the screens with lists cost with the real window: to open the push-buttons and to store one;
 // to open a master's time and light programmes with all slots used, to store and to delete one, and
-// to fill the grid of a context; and to refresh all windows after an event. Used by dev/bench.
-// Argument: a settings directory.
+// to fill the grid of a context; to open the looks of the temperature module and to pick in them;
+// and to refresh all windows after an event. Used by dev/bench. Argument: a settings directory.
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QEvent>
-#include <QTableView>
-#include <algorithm>
 #include <cstdio>
 #include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "bench/screen_measure.h"
 #include "image/tables.h"
 #include "master/context_screen.h"
 #include "master/light_program_screen.h"
@@ -29,60 +27,9 @@
 namespace bkconf {
 namespace {
 
-constexpr int Runs = 51;
-constexpr double FrameMs = 16;
 constexpr int AddressCell = 121;
 constexpr int TimeSlots = 110;
 constexpr int LightSlots = 200;
-
-/// Tells when a grid has been painted.
-class ListWatch : public QObject {
- public:
-  int paints = 0;
-  QString grid;
-
- protected:
-  bool eventFilter(QObject* object, QEvent* event) override {
-    if (event->type() == QEvent::Paint && object->parent() != nullptr &&
-        object->parent()->objectName() == grid) {
-      ++paints;
-    }
-    return false;
-  }
-};
-
-ListWatch watch;
-
-/// From an event until the list has been painted after it, in ms.
-double TimeOf(const std::function<void()>& event) {
-  const int before = watch.paints;
-  QElapsedTimer timer;
-  timer.start();
-  event();
-  while (watch.paints == before) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
-  return static_cast<double>(timer.nsecsElapsed()) / 1e6;
-}
-
-double Median(std::vector<double> values) {
-  std::sort(values.begin(), values.end());
-  return values[values.size() / 2];
-}
-
-void Print(const std::string& what, double ms) {
-  std::printf("%-28s%7.2f ms   a frame is %.0f ms\n", what.c_str(), ms, FrameMs);
-}
-
-/// The median of some runs, each of which begins with something that is not measured.
-void Measure(const std::string& what, const std::function<void(int)>& before,
-             const std::function<void()>& event) {
-  std::vector<double> times;
-  for (int run = 0; run < Runs; ++run) {
-    RunEvent([&before, run] { before(run); });
-    QApplication::processEvents();
-    times.push_back(TimeOf([&event] { RunEvent(event); }));
-  }
-  Print(what, Median(times));
-}
 
 // --- Push-buttons -------------------------------------------------------------------------------
 
@@ -95,7 +42,7 @@ void ComposeFunction(int run) {
 }
 
 void MeasureButtons() {
-  watch.grid = QStringLiteral("buttons");
+  watch.place = QStringLiteral("buttons");
   ActiveModuleType = 0;
   ButtonImage[AddressCell] = int{'A'};
   RunEvent([] { ShowImage(Origin::File); });
@@ -165,7 +112,7 @@ void ComposeProgram(const ProgramBench& bench, int run) {
 }
 
 void MeasurePrograms(const ProgramBench& bench) {
-  watch.grid = QStringLiteral("programs");
+  watch.place = QStringLiteral("programs");
   ActiveModuleType = 9;
   MasterTimeLoaded = MasterLightLoaded = 1;
   bench.fill(0, 0);
@@ -223,7 +170,7 @@ void ComposeAction(int run) {
 }
 
 void MeasureContexts() {
-  watch.grid = QStringLiteral("actions");
+  watch.place = QStringLiteral("actions");
   ActiveModuleType = 9;
   MasterContextsLoaded = 1;
   FillContexts();
@@ -250,6 +197,7 @@ void Run() {
   MeasurePrograms(
       {"lights", LightProgramScreen, OpenLightProgramScreen, FillLightPrograms, PickLevel});
   MeasureContexts();
+  MeasureTemperatures();
 
   constexpr int refreshes = 1000;
   QElapsedTimer timer;
