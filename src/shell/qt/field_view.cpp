@@ -2,9 +2,11 @@
 
 #include <QRegularExpression>
 
+#include "shell/qt/area_picture_view.h"
 #include "shell/qt/button_view.h"
 #include "shell/qt/calendar_view.h"
 #include "shell/qt/check_view.h"
+#include "shell/qt/day_band_view.h"
 #include "shell/qt/grid_view.h"
 #include "shell/qt/group_view.h"
 #include "shell/qt/label_view.h"
@@ -14,6 +16,7 @@
 #include "shell/qt/option_view.h"
 #include "shell/qt/picture_view.h"
 #include "shell/qt/progress_view.h"
+#include "shell/qt/scroll_view.h"
 #include "shell/qt/style.h"
 #include "shell/qt/text_view.h"
 
@@ -39,25 +42,27 @@ void WidgetView::Refresh() {
 }
 
 QString WidgetView::SpokenName() const {
-  const std::string* caption = &field_.caption;
-  if (caption->empty() && label_ != nullptr) caption = &label_->caption;
+  std::string name = field_.caption;
+  if (name.empty()) {
+    for (const Field* label : labels_) name += (name.empty() ? "" : " ") + label->caption;
+  }
   // In some captions a row of blanks stands for the field that is shown there. Two are no such row:
   // the sentences of actions have them.
   static const QRegularExpression room(QStringLiteral(" {3,}"));
-  return ToQt(*caption).replace(room, QStringLiteral(" ")).trimmed();
+  return ToQt(name).replace(room, QStringLiteral(" ")).trimmed();
 }
 
 void WidgetView::PushColour(QPalette::ColorRole behind, QPalette::ColorRole text) {
-  if (colour_ == field_.colour) return;
-  if (!colour_) plain_ = widget_->palette();
+  if (colour_ == field_.colour && textColour_ == field_.textColour) return;
+  if (!colour_ && !textColour_) plain_ = widget_->palette();
   colour_ = field_.colour;
-  if (!colour_) {
-    widget_->setPalette(plain_);
-    return;
-  }
+  textColour_ = field_.textColour;
   QPalette palette = plain_;
-  palette.setColor(behind, QColor(colour_->red, colour_->green, colour_->blue));
-  for (const auto role : {text, QPalette::PlaceholderText}) WriteOnColour(palette, role);
+  if (colour_) palette.setColor(behind, QColor(colour_->red, colour_->green, colour_->blue));
+  for (const auto role : {text, QPalette::PlaceholderText}) {
+    if (colour_) WriteOnColour(palette, role);
+    if (textColour_) WriteInColour(palette, role, behind, *textColour_);
+  }
   widget_->setPalette(palette);
 }
 
@@ -81,12 +86,18 @@ std::unique_ptr<WidgetView> MakeView(Field& field, QWidget* parent) {
       return std::make_unique<GridView>(static_cast<GridField&>(field), parent);
     case FieldKind::Calendar:
       return std::make_unique<CalendarView>(static_cast<CalendarField&>(field), parent);
+    case FieldKind::Scroll:
+      return std::make_unique<ScrollView>(static_cast<ScrollField&>(field), parent);
+    case FieldKind::DayBand:
+      return std::make_unique<DayBandView>(static_cast<DayBandField&>(field), parent);
     case FieldKind::Button:
       return std::make_unique<ButtonView>(static_cast<ButtonField&>(field), parent);
     case FieldKind::Progress:
       return std::make_unique<ProgressView>(static_cast<ProgressField&>(field), parent);
     case FieldKind::Picture:
       return std::make_unique<PictureView>(static_cast<PictureField&>(field), parent);
+    case FieldKind::AreaPicture:
+      return std::make_unique<AreaPictureView>(static_cast<AreaPictureField&>(field), parent);
     case FieldKind::Manual:
       return std::make_unique<ManualView>(static_cast<ManualField&>(field), parent);
     case FieldKind::Menu:

@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/field.h"
 
@@ -37,8 +38,9 @@ class WidgetView : public FieldView {
   QWidget* Widget() const { return widget_; }
   const Field& Shown() const { return field_; }
 
-  /// The label whose text tells what this field is, for a screen reader.
-  void SetLabel(const Field& label) { label_ = &label; }
+  /// A label whose text tells what this field is, for a screen reader. Several are read out one
+  /// after the other.
+  void AddLabel(const Field& label) { labels_.push_back(&label); }
 
   void Refresh() final;
 
@@ -53,18 +55,19 @@ class WidgetView : public FieldView {
   virtual void Push() = 0;
   /// Whether the user can do something with it.
   virtual bool Enabled() const { return field_.enabled; }
-  /// What a screen reader says: the caption, or the text of the label.
+  /// What a screen reader says: the caption, or the texts of the labels.
   virtual QString SpokenName() const;
-  /// Paints the colour of the field in the one role, and what is written on it in the other. For
-  /// the kinds that show a colour.
+  /// Paints the colour of the field in the one role, and what is written on it in the other, in the
+  /// colour that the field has for it. For the kinds that show a colour.
   void PushColour(QPalette::ColorRole behind, QPalette::ColorRole text);
 
  private:
   const Field& field_;
   QWidget* widget_;
   std::optional<Colour> colour_;
+  std::optional<Colour> textColour_;
   QPalette plain_;  ///< what the widget has without a colour
-  const Field* label_ = nullptr;
+  std::vector<const Field*> labels_;
   std::string toolTip_;
 };
 

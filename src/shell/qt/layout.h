@@ -19,6 +19,8 @@ enum class Look {
   Sentence,  ///< a label: has room for two lines, whatever it says
   Tall,      ///< a box to tick, or a value: as tall as the lists beside it
   Low,       ///< a list: no taller than its text asks for
+  Short,     ///< a list: no wider than its items
+  Display,   ///< a text or a label: as it stands on the display of a module
   Newest,    ///< a list box: its last item stays in view when items are added
 };
 
@@ -44,7 +46,7 @@ enum class PartKind {
 struct Part {
   PartKind kind = PartKind::Space;
   std::string field;
-  std::string label;  ///< the field that names this one
+  std::string label;  ///< the field that names this one, or several with blanks between
   std::vector<Part> parts;
   Look look = Look::Plain;
   int columns = 0;     ///< of tiles
@@ -59,7 +61,7 @@ struct Part {
 inline Part Item(std::string_view field, Look look = Look::Plain) {
   return {.kind = PartKind::Item, .field = std::string(field), .look = look};
 }
-/// A field without a caption of its own, named by a label that stands elsewhere.
+/// A field without a caption of its own, named by a label that stands elsewhere, or by several.
 inline Part Labelled(std::string_view label, std::string_view field) {
   return {.kind = PartKind::Item, .field = std::string(field), .label = std::string(label)};
 }

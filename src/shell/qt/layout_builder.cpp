@@ -3,6 +3,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QScopedValueRollback>
+#include <sstream>
 
 #include "shell/qt/group_view.h"
 #include "shell/qt/label_view.h"
@@ -30,7 +31,7 @@ QWidget* MakeRule() {
 /// What a screen reader names by the label beside it.
 bool TakesInput(FieldKind kind) {
   return kind == FieldKind::Text || kind == FieldKind::List || kind == FieldKind::ListBox ||
-         kind == FieldKind::Grid;
+         kind == FieldKind::Grid || kind == FieldKind::Scroll;
 }
 
 void KeepRoom(QWidget& widget) {
@@ -249,18 +250,25 @@ QWidget* LayoutBuilder::Place(const Part& part) {
   if (part.look == Look::Newest) static_cast<ListBoxView&>(view).FollowNewest();
   if (keeping_) KeepRoom(*widget);
   Widen(part, *widget);
+  // A text of a display is no wider than there.
+  if (part.look == Look::Display && part.characters > 0) {
+    widget->setMaximumWidth(widget->minimumWidth());
+  }
   placed_.push_back(widget);
   if (part.entered) entered_.push_back(widget);
   return widget;
 }
 
-void LayoutBuilder::Label(const std::string& label, WidgetView& view) {
-  WidgetView& labelView = find_(label);
-  view.SetLabel(labelView.Shown());
-  auto* widget = dynamic_cast<QLabel*>(labelView.Widget());
-  // A label that names several fields goes with the first.
-  if (widget == nullptr || widget->buddy() != nullptr || !TakesInput(view.Shown().kind)) return;
-  widget->setBuddy(view.Widget());
+void LayoutBuilder::Label(const std::string& labels, WidgetView& view) {
+  std::istringstream names(labels);
+  for (std::string name; names >> name;) {
+    WidgetView& label = find_(name);
+    view.AddLabel(label.Shown());
+    auto* widget = dynamic_cast<QLabel*>(label.Widget());
+    // A label that names several fields goes with the first.
+    if (widget == nullptr || widget->buddy() != nullptr || !TakesInput(view.Shown().kind)) continue;
+    widget->setBuddy(view.Widget());
+  }
 }
 
 }  // namespace bkconf

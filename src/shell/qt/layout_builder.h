@@ -49,7 +49,7 @@ class LayoutBuilder {
   QLayout* BuildBelowCaption(const Part& frame, WidgetView& group);
   QWidget* Place(const Part& part);
   void Add(const Part& part, QBoxLayout& box);
-  void Label(const std::string& label, WidgetView& view);
+  void Label(const std::string& labels, WidgetView& view);
 
   std::function<WidgetView&(const std::string&)> find_;
   std::vector<QWidget*> placed_;

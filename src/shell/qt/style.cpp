@@ -1,6 +1,7 @@
 #include "shell/qt/style.h"
 
 #include <QComboBox>
+#include <QFontDatabase>
 #include <QLineEdit>
 #include <QPainter>
 #include <QProxyStyle>
@@ -17,6 +18,7 @@ constexpr QRgb OnAccent = 0xffffffff;
 /// The colours of fields are light in every theme.
 constexpr QRgb TextOnColour = 0xff1c2630;
 constexpr QRgb DisabledOnColour = 0xff56616c;
+constexpr QRgb DisplayGround = 0xffe4efe0;
 
 /// Fusion, but for groups: a card with its caption in bold at the top.
 class CardStyle : public QProxyStyle {
@@ -103,6 +105,23 @@ QPalette LightPalette() {
   return palette;
 }
 
+/// As on a display of a module: letters of one width on its light ground, in every theme.
+void MakeDisplay(QWidget& widget) {
+  QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  font.setPointSizeF(widget.font().pointSizeF());
+  widget.setFont(font);
+  if (dynamic_cast<QLineEdit*>(&widget) == nullptr) return;
+  QPalette palette = widget.palette();
+  palette.setColor(QPalette::Base, QColor(DisplayGround));
+  WriteOnColour(palette, QPalette::Text);
+  widget.setPalette(palette);
+}
+
+/// No wider than its items.
+void MakeShort(QWidget& widget) {
+  if (auto* list = dynamic_cast<QComboBox*>(&widget)) list->setMinimumContentsLength(2);
+}
+
 /// Wider and taller than other buttons, and in the colour of the program while it can be pressed.
 void MakePrimary(QWidget& widget) {
   QPalette palette = widget.palette();
@@ -121,6 +140,22 @@ void MakePrimary(QWidget& widget) {
 void WriteOnColour(QPalette& palette, QPalette::ColorRole role) {
   palette.setColor(role, QColor(TextOnColour));
   palette.setColor(QPalette::Disabled, role, QColor(DisabledOnColour));
+}
+
+QColor ReadableOn(const QColor& ground, const Colour& colour) {
+  constexpr int half = 128;
+  constexpr int leastLight = 170;
+  const QColor text(colour.red, colour.green, colour.blue);
+  if (ground.lightness() >= half) return text;
+  return QColor::fromHsl(text.hslHue(), text.hslSaturation(),
+                         qMax(leastLight, 255 - text.lightness()));
+}
+
+void WriteInColour(QPalette& palette, QPalette::ColorRole role, QPalette::ColorRole ground,
+                   const Colour& colour) {
+  for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+    palette.setColor(group, role, ReadableOn(palette.color(group, ground), colour));
+  }
 }
 
 void ApplyStyle(QApplication& application) {
@@ -152,6 +187,12 @@ void ApplyLook(Look look, QWidget& widget) {
       return;
     case Look::Heading:
       MakeBold(widget);
+      return;
+    case Look::Display:
+      MakeDisplay(widget);
+      return;
+    case Look::Short:
+      MakeShort(widget);
       return;
     case Look::Path:
       if (auto* label = dynamic_cast<FittingLabel*>(&widget)) label->Shorten();

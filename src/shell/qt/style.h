@@ -6,6 +6,7 @@
 #include <QPalette>
 #include <QWidget>
 
+#include "platform/field.h"
 #include "shell/qt/layout.h"
 
 namespace bkconf {
@@ -20,6 +21,13 @@ void ApplyStyle(QApplication& application);
 
 /// Gives a role of a palette what is written on the colour of a field: dark in every theme.
 void WriteOnColour(QPalette& palette, QPalette::ColorRole role);
+
+/// A colour of texts, as it can be read on that ground: in a dark theme the dark ones are light.
+QColor ReadableOn(const QColor& ground, const Colour& colour);
+/// Gives a role of a palette the colour of a field's text, on the ground of another role. What is
+/// disabled stays as faint as it is.
+void WriteInColour(QPalette& palette, QPalette::ColorRole role, QPalette::ColorRole ground,
+                   const Colour& colour);
 
 void ApplyLook(Look look, QWidget& widget);
 /// In the weight of captions.

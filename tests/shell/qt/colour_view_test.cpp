@@ -1,4 +1,4 @@
-// What the colour of a field does to its view, in light and in dark.
+// What the colours of a field do to its view, in light and in dark.
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -13,6 +13,7 @@ using namespace bkconf;
 namespace {
 
 constexpr Colour Green{0xC0, 0xFF, 0xC0};
+constexpr Colour Magenta{0xFF, 0x00, 0xFF};
 constexpr Colour Red{0xFF, 0x80, 0x80};
 
 struct SampleScreen : Screen {
@@ -69,12 +70,7 @@ class ColourViewTest : public QObject {
   }
 
   void TheTextOnAColourIsDarkInADarkThemeToo() {
-    QPalette dark(QColor(0x30, 0x30, 0x30), QColor(0x20, 0x20, 0x20));
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-      dark.setColor(role, Qt::white);
-    }
-    QApplication::setPalette(dark);
-    Build();
+    UseDarkTheme();
     for (const Painted& each : All()) {
       QCOMPARE(each.widget->palette().color(each.text), QColor(Qt::white));
       Paint(each, Green);
@@ -86,6 +82,61 @@ class ColourViewTest : public QObject {
       Paint(each, {});
       QCOMPARE(each.widget->palette().color(each.text), QColor(Qt::white));
     }
+  }
+
+  void ATextHasTheColourOfItsField() {
+    for (const Painted& each : All()) {
+      const QPalette before = each.widget->palette();
+      Write(each, Magenta);
+      QCOMPARE(each.widget->palette().color(QPalette::Active, each.text), QColor(0xFF, 0x00, 0xFF));
+      QCOMPARE(each.widget->palette().color(each.behind), before.color(each.behind));
+      QCOMPARE(each.widget->palette().color(QPalette::Disabled, each.text),
+               before.color(QPalette::Disabled, each.text));
+      Paint(each, Green);
+      QCOMPARE(each.widget->palette().color(QPalette::Active, each.text), QColor(0xFF, 0x00, 0xFF));
+      QCOMPARE(each.widget->palette().color(each.behind), QColor(0xC0, 0xFF, 0xC0));
+      Paint(each, {});
+      Write(each, {});
+      QCOMPARE(each.widget->palette(), before);
+    }
+  }
+
+  void AColourOfATextIsSeenInTheWindow() {
+    for (const Painted& each : All()) {
+      Write(each, Magenta);
+      const QImage image = each.widget->grab().toImage();
+      bool seen = false;
+      for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+          const QColor colour = image.pixelColor(x, y);
+          seen = seen || (colour.hslSaturation() > 100 && qAbs(colour.hslHue() - 300) < 15);
+        }
+      }
+      QVERIFY2(seen, each.field->name.c_str());
+    }
+  }
+
+  void ADarkColourOfATextIsLightInADarkTheme() {
+    UseDarkTheme();
+    for (const Painted& each : All()) {
+      for (const Colour colour : {Colour{0x40, 0x40, 0x40}, Colour{0x00, 0x00, 0xFF}}) {
+        Write(each, colour);
+        const QColor text = each.widget->palette().color(QPalette::Active, each.text);
+        QVERIFY(text.lightness() >= 170);
+        if (colour.blue == 0xFF) QCOMPARE(text.hslHue(), QColor(Qt::blue).hslHue());
+      }
+      // On a light ground it stays as it is.
+      Paint(each, Green);
+      QCOMPARE(each.widget->palette().color(QPalette::Active, each.text), QColor(Qt::blue));
+    }
+  }
+
+  void ATextThatIsNoItemHasTheColourToo() {
+    screen_->list.Show("C");
+    screen_->list.textColour = Magenta;
+    Refresh();
+    QCOMPARE(Find<QComboBox>("list")->palette().color(QPalette::PlaceholderText),
+             QColor(0xFF, 0x00, 0xFF));
   }
 
   void ATextThatIsNoItemIsAsReadableOnAColour() {
@@ -132,9 +183,22 @@ class ColourViewTest : public QObject {
     Refresh();
     QVERIFY(QTest::qWaitForWindowActive(window_.get()));
   }
+  void UseDarkTheme() {
+    QPalette dark(QColor(0x30, 0x30, 0x30), QColor(0x20, 0x20, 0x20));
+    dark.setColor(QPalette::Base, QColor(0x10, 0x10, 0x10));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+      dark.setColor(role, Qt::white);
+    }
+    QApplication::setPalette(dark);
+    Build();
+  }
   void Refresh() { window_->Refresh(); }
   void Paint(const Painted& painted, std::optional<Colour> colour) {
     painted.field->colour = colour;
+    Refresh();
+  }
+  void Write(const Painted& painted, std::optional<Colour> colour) {
+    painted.field->textColour = colour;
     Refresh();
   }
 
