@@ -185,6 +185,8 @@ void ScreenWindow::KeepFocus(const QPointer<QWidget>& before) {
     awaitedFocus_.clear();
     return;
   }
+  // Nothing in the window could take it until now.
+  if (before == nullptr) FocusFirst();
   if (!lost || before == nullptr) return;
   if (awaitedFocus_ == nullptr || before != standIn_) awaitedFocus_ = before;
   // From a field that is gone to the next one; what may have come in its place is there by now.
