@@ -1,4 +1,7 @@
 #include "shell/qt/screens.h"
+#include "shell/qt/layouts/display_menu_screen.h"
+#include "shell/qt/layouts/temperature_screen.h"
+#include "shell/qt/layouts/weekday_text_screen.h"
 
 #include <array>
 #include <map>
@@ -27,6 +30,9 @@
 #include "shell/qt/layouts/time_program_screen.h"
 #include "shell/save_dialog.h"
 #include "special/alarm_screen.h"
+#include "special/display_menu_screen.h"
+#include "special/temperature_screen.h"
+#include "special/weekday_text_screen.h"
 
 namespace bkconf {
 namespace {
@@ -43,6 +49,9 @@ constexpr auto Rows = std::to_array<ScreenRow>({
     {&TimeProgramScreen, TimeProgramScreenLayout, &MainWindow},
     {&LightProgramScreen, LightProgramScreenLayout, &MainWindow},
     {&AlarmScreen, AlarmScreenLayout, &MainWindow},
+    {&TemperatureScreen, TemperatureScreenLayout, &MainWindow},
+    {&DisplayMenuScreen, DisplayMenuScreenLayout, &MainWindow},
+    {&WeekdayTextScreen, WeekdayTextScreenLayout, &MainWindow},
     {&DiagnosticsScreen, DiagnosticsScreenLayout, &MainWindow},
 });
 

@@ -8,6 +8,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
+#include <functional>
+#include <map>
 
 #include "diagnostics/diagnostics_screen.h"
 #include "layout_names.h"
@@ -26,6 +28,9 @@
 #include "shell/qt/style.h"
 #include "shell/save_dialog.h"
 #include "special/alarm_screen.h"
+#include "special/display_menu_screen.h"
+#include "special/temperature_screen.h"
+#include "special/weekday_text_screen.h"
 #include "stand_ins.h"
 
 using namespace bkconf;
@@ -131,7 +136,8 @@ class FileScreensViewTest : public QObject {
     QFETCH(int, row);
     ShowScreen(row);
     const Field* wanted = Row(row).screen->firstFocus;
-    for (QWidget* widget : VisibleFields(row)) {
+    for (const QString& name : NamesIn(Row(row).layout())) {
+      auto* widget = Find<QWidget>(Window(row), name);
       const bool isWanted = wanted != nullptr && widget->objectName() == ToQt(wanted->name);
       const bool isFirst = wanted == nullptr && TakesFocus(widget);
       if (!isWanted && !isFirst) continue;
@@ -250,23 +256,31 @@ class FileScreensViewTest : public QObject {
   }
   static ScreenWindow* Window(int row) { return Named(Row(row).screen->name.c_str()); }
 
-  /// As its own entry or button does.
+  /// As its own entry or button does, with all that it needs in memory.
   static void ShowScreen(int row) {
-    const Screen* screen = Row(row).screen;
-    RunEvent([screen] {
-      if (screen == &OpenDialog) ShowOpenDialog();
-      if (screen == &SaveDialog) ShowSaveDialog();
-      if (screen == &DirectoryScreen || screen == &DirectoryPicker) ShowDirectoryScreen();
-      if (screen == &DirectoryPicker) ShowDirectoryPicker();
-      if (screen == &ButtonScreen) OpenButtonScreen();
-      if (screen == &OutputScreen) OpenOutputScreen();
-      MasterContextsLoaded = MasterTimeLoaded = MasterLightLoaded = 1;
-      if (screen == &ContextScreen) OpenContextScreen();
-      if (screen == &TimeProgramScreen) OpenTimeProgramScreen();
-      if (screen == &LightProgramScreen) OpenLightProgramScreen();
-      if (screen == &AlarmScreen) OpenAlarmScreen();
-      if (screen == &DiagnosticsScreen) OpenDiagnosticsScreen();
-    });
+    static const std::map<const Screen*, std::function<void()>> openers = {
+        {&OpenDialog, ShowOpenDialog},
+        {&SaveDialog, ShowSaveDialog},
+        {&DirectoryScreen, ShowDirectoryScreen},
+        {&DirectoryPicker,
+         [] {
+           ShowDirectoryScreen();
+           ShowDirectoryPicker();
+         }},
+        {&ButtonScreen, OpenButtonScreen},
+        {&OutputScreen, OpenOutputScreen},
+        {&ContextScreen, OpenContextScreen},
+        {&TimeProgramScreen, OpenTimeProgramScreen},
+        {&LightProgramScreen, OpenLightProgramScreen},
+        {&AlarmScreen, OpenAlarmScreen},
+        {&TemperatureScreen, OpenRoomProgram},
+        {&DisplayMenuScreen, OpenDisplay1},
+        {&WeekdayTextScreen, OpenWeekdayTexts},
+        {&DiagnosticsScreen, OpenDiagnosticsScreen},
+    };
+    MasterContextsLoaded = MasterTimeLoaded = MasterLightLoaded = 1;
+    TempImage2Loaded = LcdScreen1Loaded = LcdWeekdayLoaded = 1;
+    RunEvent(openers.at(Row(row).screen));
     QVERIFY(QTest::qWaitForWindowExposed(Window(row)));
     QCoreApplication::processEvents();
   }
