@@ -197,7 +197,7 @@ TEST_F(LiveTemperaturesTest, APortThatFailsLeavesTheRoomsThatHaveCome) {
   ReadWith({21, 22, 23, 24, 25, 26, 27, 28});
   Open(Action::LiveTemperatures);
   AwaitScreen();
-  ASSERT_TRUE(clock.RunUntil([&] { return Lines()[2] != ""; }, 60'000));
+  ASSERT_TRUE(clock.RunUntil([&] { return !Lines()[2].empty(); }, 60'000));
   line.failed = true;
   EXPECT_THROW(clock.Advance(10'000), RuntimeError);
   LeaveFailedTransfer();
