@@ -1,6 +1,7 @@
 #include "special/display_menu_screen.h"
 
 #include <array>
+#include <cstdint>
 
 #include "actions/action_code.h"
 #include "image/commands.h"
@@ -179,13 +180,18 @@ void ClearOutputs() {
   DisplayMenuScreen.outputsGroup.visible = false;
 }
 
+/// An output's number as the fields have it, counted from 1. A file can hold any number.
+std::string NumberOf(const Cell& index) {
+  return std::to_string(std::int64_t{index.Whole()} + 1);
+}
+
 /// A cell that nothing has filled is an unused line.
 void ShowModule(int line) {
   Line(line).module.Show(CharacterOf(Image()[OutputCell(FirstOutput, line)].Whole()));
 }
 
 void ShowOutput(int line) {
-  Line(line).output.Show(std::to_string(Image()[OutputCell(FirstOutput, line) + 1].Whole() + 1));
+  Line(line).output.Show(NumberOf(Image()[OutputCell(FirstOutput, line) + 1]));
 }
 
 void LoadKeys() {
@@ -277,9 +283,9 @@ void PickCategory() {
   MarkChange();
   ClearOutputs();
   OfferItems();
-  const MenuCategory* category = CategoryNamed(DisplayMenuScreen.category.Text());
-  DisplayMenuScreen.keyA.Show(Text(category->keyA));
-  DisplayMenuScreen.keyB.Show(Text(category->keyB));
+  const auto index = static_cast<std::size_t>(DisplayMenuScreen.category.Index());
+  DisplayMenuScreen.keyA.Show(Text(MenuCategories[index].keyA));
+  DisplayMenuScreen.keyB.Show(Text(MenuCategories[index].keyB));
   EnableOutputButtons(IsAutomation());
   LcdLastCategory = DisplayMenuScreen.category.Text();
 }
@@ -297,7 +303,7 @@ void TypeCategory() {
 /// A cell of 0 is the character 0, which counts as filled.
 void ShowPair(AutomationFields& row, int cell) {
   row.module.Show(TextOfCells(Image(), cell, 1));
-  row.output.Show(std::to_string(Image()[cell + 1].Whole() + 1));
+  row.output.Show(NumberOf(Image()[cell + 1]));
 }
 
 void OpenOutputs(int line) {
@@ -392,6 +398,7 @@ void Reveal() {
 void Open(int display) {
   LcdEditedDisplay = display;
   ScreenShown = false;
+  ScreenIndex = 0;
   EmptyFields();
   if (Edited().loaded.Number() != 1) {
     awaited = true;
@@ -415,10 +422,11 @@ void BeginRead() {
   Reveal();
 }
 
-/// No screen is chosen, so that leaving at once changes nothing of what was read.
+/// No screen is chosen, so that leaving at once changes nothing of what was read. A transfer can be
+/// left when the table has come already and is edited: then there is nothing to do.
 void EndRead() {
   ReturnBar();
-  if (!DisplayMenuScreen.shown) return;
+  if (!DisplayMenuScreen.shown || DisplayMenuScreen.leave.enabled) return;
   FillScreenList();
   Show(DisplayMenuScreen.status.caption, TextId::EditMode);
   Enable(true);

@@ -82,9 +82,10 @@ void BeginRead() {
   Reveal();
 }
 
+/// A transfer can be left when the names have come already: what was typed since stays.
 void EndRead() {
   ReturnBar();
-  if (WeekdayTextScreen.shown) FinishOpening();
+  if (WeekdayTextScreen.shown && !WeekdayTextScreen.leave.enabled) FinishOpening();
 }
 
 void LeaveRead() {
