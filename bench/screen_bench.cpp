@@ -1,7 +1,8 @@
 // What the screens with lists cost with the real window: to open the push-buttons and to store one;
 // to open a master's time and light programmes with all slots used, to store and to delete one, and
-// to fill the grid of a context; to open the looks of the temperature module and to pick in them;
-// and to refresh all windows after an event. Used by dev/bench. Argument: a settings directory.
+// to fill the grid of a context; to open the screens of the temperature and the display module and
+// to pick in them; and to refresh all windows after an event. Used by dev/bench.
+// Argument: a settings directory.
 #include <QApplication>
 #include <QElapsedTimer>
 #include <cstdio>
@@ -198,6 +199,7 @@ void Run() {
       {"lights", LightProgramScreen, OpenLightProgramScreen, FillLightPrograms, PickLevel});
   MeasureContexts();
   MeasureTemperatures();
+  MeasureDisplays();
 
   constexpr int refreshes = 1000;
   QElapsedTimer timer;

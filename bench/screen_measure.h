@@ -73,5 +73,7 @@ inline void Measure(const std::string& what, const std::function<void(int)>& bef
 
 /// The rows of the screen of the temperature module.
 void MeasureTemperatures();
+/// Those of the screens of the display module.
+void MeasureDisplays();
 
 }  // namespace bkconf
