@@ -51,7 +51,6 @@ constexpr auto OtherTitles = std::to_array<TextId>(
 /// The picture of the remote control, and where its keys lie in it, in thousandths of its width and
 /// height.
 constexpr std::string_view RemotePicture = "remote.bmp";
-constexpr int Columns = 3;
 struct KeyPlace {
   int column;
   int line;
