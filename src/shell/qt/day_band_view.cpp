@@ -61,7 +61,7 @@ class Band : public QWidget {
     QPainter painter(this);
     painter.fillRect(Place(), palette().base());
     for (const DayBandField::Part& part : parts_) PaintPart(painter, part);
-    painter.setPen(palette().color(QPalette::Mid));
+    painter.setPen(Faint());
     painter.drawRect(Place());
     PaintHours(painter);
   }
@@ -89,6 +89,12 @@ class Band : public QWidget {
     const int overhang = fontMetrics().horizontalAdvance(QStringLiteral("24")) / 2 + 1;
     return QRectF(overhang, 0, width() - 2 * overhang, 2 * fontMetrics().height())
         .adjusted(0.5, 0.5, -0.5, -0.5);
+  }
+
+  QColor Faint() const {
+    QColor ink = palette().color(QPalette::WindowText);
+    ink.setAlphaF(0.5F);
+    return ink;
   }
 
   double XOf(int minutes) const { return Place().left() + Place().width() * minutes / DayLength; }
@@ -126,7 +132,7 @@ class Band : public QWidget {
     for (int hour = 0; hour <= DayLength / Hour; ++hour) {
       const double x = XOf(hour * Hour);
       const bool numbered = hour % HoursBetweenNumbers == 0;
-      painter.setPen(palette().color(QPalette::Mid));
+      painter.setPen(Faint());
       painter.drawLine(QPointF(x, Place().bottom()),
                        QPointF(x, numbered ? top : top - MarkLength / 2.0));
       if (!numbered) continue;

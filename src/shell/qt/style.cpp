@@ -144,7 +144,7 @@ void WriteOnColour(QPalette& palette, QPalette::ColorRole role) {
 
 QColor ReadableOn(const QColor& ground, const Colour& colour) {
   constexpr int half = 128;
-  constexpr int leastLight = 170;
+  constexpr int leastLight = 190;
   const QColor text(colour.red, colour.green, colour.blue);
   if (ground.lightness() >= half) return text;
   return QColor::fromHsl(text.hslHue(), text.hslSaturation(),
