@@ -4,24 +4,30 @@
 #include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>
+#include <algorithm>
+#include <array>
 
 #include "share_maker/files.h"
 
 namespace share_maker {
 namespace {
 
-/// More than twice what the main window gives a picture at first, for screens with small pixels.
-constexpr QSize PictureSize(640, 480);
+/// Of a module and of a remote control. More than what the windows give a picture at first, for
+/// screens with small pixels.
+constexpr std::array Sizes = {QSize(640, 480), QSize(360, 720)};
 
 }  // namespace
 
 void MakePicture(const QString& drawing, const QString& bitmap) {
   QSvgRenderer renderer;
   if (!renderer.load(Content(drawing))) throw Failure(drawing, "is no SVG");
-  if (renderer.defaultSize() != PictureSize) throw Failure(drawing, "is not 640 by 480 in size");
+  const QSize size = renderer.defaultSize();
+  if (std::find(Sizes.begin(), Sizes.end(), size) == Sizes.end()) {
+    throw Failure(drawing, "is neither 640 by 480 nor 360 by 720 in size");
+  }
 
   // A bitmap has no transparency; the picture lies on a white card.
-  QImage image(PictureSize, QImage::Format_RGB32);
+  QImage image(size, QImage::Format_RGB32);
   image.fill(Qt::white);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);

@@ -12,7 +12,11 @@
 #include <memory>
 
 #include "image/module_kinds.h"
+#include "session/language.h"
+#include "special/ir_screen.h"
 
+using bkconf::AreaPictureField;
+using bkconf::IrScreen;
 using bkconf::Manual;
 using bkconf::Model;
 using bkconf::Models;
@@ -67,6 +71,20 @@ QSet<QString> AsSet(const QStringList& names) {
   return {names.begin(), names.end()};
 }
 
+/// What the screen of the infrared module shows.
+constexpr std::string_view RemotePicture = "remote.bmp";
+
+/// Something is drawn on a key, in its middle.
+bool HasSign(const QImage& picture, const QRect& place, const QColor& key) {
+  int drawn = 0;
+  for (int y = place.top(); y <= place.bottom(); ++y) {
+    for (int x = place.left(); x <= place.right(); ++x) {
+      if (qAbs(picture.pixelColor(x, y).lightness() - key.lightness()) > 60) ++drawn;
+    }
+  }
+  return drawn > 50;
+}
+
 class ShareTest : public QObject {
   Q_OBJECT
 
@@ -93,6 +111,36 @@ class ShareTest : public QObject {
     QVERIFY2(part > 0.3 && part < 0.9, qPrintable(QString::number(part)));
     for (const QPoint corner : {QPoint(0, 0), QPoint(639, 0), QPoint(0, 479), QPoint(639, 479)}) {
       QCOMPARE(picture.pixelColor(corner), QColor(Qt::white));
+    }
+  }
+
+  void EachKeyOfTheRemoteControlIsDrawnWhereItsAreaIs() {
+    bkconf::Language = bkconf::Dutch;
+    bkconf::LoadIrScreen();
+    QCOMPARE(ToQt(IrScreen.remote.file), ToQt(RemotePicture));
+    const QImage picture(Made(QStringLiteral("pictures"), ToQt(RemotePicture)));
+    QCOMPARE(picture.size(), QSize(360, 720));
+    QCOMPARE(IrScreen.remote.areas.size(), std::size_t{13});
+    for (const AreaPictureField::Area& area : IrScreen.remote.areas) {
+      const QRectF place(picture.width() * area.left / 1000.0, picture.height() * area.top / 1000.0,
+                         picture.width() * area.width / 1000.0,
+                         picture.height() * area.height / 1000.0);
+      const auto at = [&picture](double x, double y) {
+        return picture.pixelColor(qRound(x), qRound(y));
+      };
+      // The same colour just within each side, and the dark case just outside.
+      const QPointF middle = place.center();
+      const QColor key = at(place.left() + 4, middle.y());
+      QVERIFY2(key.lightness() > 70, area.name.c_str());
+      QCOMPARE(at(place.right() - 4, middle.y()), key);
+      QCOMPARE(at(middle.x(), place.top() + 4), key);
+      QCOMPARE(at(middle.x(), place.bottom() - 4), key);
+      for (const QColor& outside :
+           {at(place.left() - 4, middle.y()), at(place.right() + 4, middle.y()),
+            at(middle.x(), place.top() - 4), at(middle.x(), place.bottom() + 4)}) {
+        QVERIFY2(outside.lightness() < 60, area.name.c_str());
+      }
+      QVERIFY2(HasSign(picture, place.toRect().adjusted(8, 8, -8, -8), key), area.name.c_str());
     }
   }
 
@@ -125,7 +173,7 @@ class ShareTest : public QObject {
 
   void EachSourceBelongsToAModel() {
     QCOMPARE(Sources(QStringLiteral("pictures"), QStringLiteral("svg"), QStringLiteral("bmp")),
-             AsSet(Pictures()));
+             AsSet(Pictures() + QStringList(ToQt(RemotePicture))));
     QCOMPARE(Sources(QStringLiteral("manuals"), QStringLiteral("md"), QStringLiteral("pdf")),
              AsSet(Manuals()));
   }
@@ -146,7 +194,8 @@ class ShareTest : public QObject {
     QCOMPARE(QProcess::execute(QStringLiteral(SETUP_PROGRAM),
                                {QStringLiteral("--directory"), directory}),
              0);
-    for (const QString& name : Pictures() + Manuals()) {
+    const QStringList names = Pictures() + Manuals() + QStringList(ToQt(RemotePicture));
+    for (const QString& name : names) {
       const bool picture = name.endsWith(QStringLiteral(".bmp"));
       const QString made =
           Made(picture ? QStringLiteral("pictures") : QStringLiteral("manuals"), name);
@@ -192,7 +241,8 @@ class ShareTest : public QObject {
     const QByteArray drawing =
         "<svg xmlns='http://www.w3.org/2000/svg' width='64' height='48'></svg>";
     QVERIFY(Make(QStringLiteral("picture"), drawing).isEmpty());
-    QVERIFY2(error_.contains("source is not 640 by 480 in size"), error_.constData());
+    QVERIFY2(error_.contains("source is neither 640 by 480 nor 360 by 720 in size"),
+             error_.constData());
   }
 
   void WhatIsNoDrawingIsRefused() {
