@@ -18,13 +18,16 @@ namespace {
 constexpr double Whole = 1000;
 /// In device-independent pixels.
 constexpr QSize PreferredSize{230, 460};
-constexpr QSize LeastSize{150, 300};
+constexpr QSize LeastSize{190, 360};
 constexpr double FrameWidth = 3;
 constexpr double Radius = 8;
+constexpr double CardRadius = 5;
+/// Between the picture and the edge of its card.
+constexpr int Margin = 6;
 
 class AreaKey;
 
-/// The picture, as large as there is room, with the keys over it.
+/// The picture on a card, as large as there is room, with the keys over it.
 class AreaPicture : public QWidget {
  public:
   AreaPicture(QWidget* parent, std::function<void(int)> pick)
@@ -57,7 +60,10 @@ class AreaPicture : public QWidget {
   void paintEvent(QPaintEvent*) override {
     if (picture_.isNull()) return;
     QPainter painter(this);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.setRenderHints(QPainter::SmoothPixmapTransform | QPainter::Antialiasing);
+    painter.setPen(palette().color(QPalette::Midlight));
+    painter.setBrush(Qt::white);  // as what pictures are drawn on
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), CardRadius, CardRadius);
     painter.drawPixmap(PlaceOfPicture().toRect(), picture_);
   }
   void resizeEvent(QResizeEvent*) override { PlaceKeys(); }
@@ -65,7 +71,8 @@ class AreaPicture : public QWidget {
  private:
   QRectF PlaceOfPicture() const {
     const QSize picture = picture_.isNull() ? PreferredSize : picture_.size();
-    QRect place({}, picture.scaled(size(), Qt::KeepAspectRatio));
+    const QSize room = size() - QSize(2 * Margin, 2 * Margin);
+    QRect place({}, picture.scaled(room, Qt::KeepAspectRatio));
     place.moveCenter(rect().center());
     return place;
   }

@@ -1,5 +1,8 @@
 #include "shell/qt/screens.h"
+#include "shell/qt/layouts/audio_screen.h"
 #include "shell/qt/layouts/display_menu_screen.h"
+#include "shell/qt/layouts/ir_screen.h"
+#include "shell/qt/layouts/simulation_screen.h"
 #include "shell/qt/layouts/temperature_screen.h"
 #include "shell/qt/layouts/weekday_text_screen.h"
 
@@ -30,7 +33,10 @@
 #include "shell/qt/layouts/time_program_screen.h"
 #include "shell/save_dialog.h"
 #include "special/alarm_screen.h"
+#include "special/audio_screen.h"
 #include "special/display_menu_screen.h"
+#include "special/ir_screen.h"
+#include "special/simulation_screen.h"
 #include "special/temperature_screen.h"
 #include "special/weekday_text_screen.h"
 
@@ -52,6 +58,9 @@ constexpr auto Rows = std::to_array<ScreenRow>({
     {&TemperatureScreen, TemperatureScreenLayout, &MainWindow},
     {&DisplayMenuScreen, DisplayMenuScreenLayout, &MainWindow},
     {&WeekdayTextScreen, WeekdayTextScreenLayout, &MainWindow},
+    {&AudioScreen, AudioScreenLayout, &MainWindow},
+    {&SimulationScreen, SimulationScreenLayout, &MainWindow},
+    {&IrScreen, IrScreenLayout, &MainWindow},
     {&DiagnosticsScreen, DiagnosticsScreenLayout, &MainWindow},
 });
 

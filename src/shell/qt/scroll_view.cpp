@@ -19,6 +19,7 @@ constexpr int FewSteps = 10;
 constexpr int StepsOfPage = 6;
 /// Of a scroll bar, in device-independent pixels: its arrows can be hit without aiming.
 constexpr QSize LeastBar{120, 26};
+constexpr int LeastSliderHeight = 32;
 constexpr QSizeF HandleSize{10, 16};
 constexpr double Radius = 3;
 
@@ -38,7 +39,7 @@ class Slider : public WheelProof<QSlider> {
  public:
   explicit Slider(QWidget* parent) : WheelProof(parent) {
     setTickPosition(QSlider::TicksBelow);
-    setPageStep(1);
+    setMinimumHeight(LeastSliderHeight);
   }
 };
 

@@ -47,7 +47,7 @@ class ScreenStage {
   QGroupBox* Panel(const char* name) const { return Find<QGroupBox>(name); }
   QLabel* Label(const char* name) const { return Find<QLabel>(name); }
   QList<QWidget*> VisibleFields() const;
-  /// The days of the calendar stand for it.
+  /// The days of a calendar stand for it, and the keys of a picture.
   QString FieldInFocus() const;
   static QRect Place(const QWidget* widget) {
     return {widget->mapTo(widget->window(), QPoint()), widget->size()};

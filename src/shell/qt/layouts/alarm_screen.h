@@ -2,30 +2,11 @@
 // left, the editor of an action on the right. The table of screens names it.
 #pragma once
 
-#include <string>
-
 #include "shell/qt/layout.h"
 #include "shell/qt/layouts/action_picker.h"
+#include "shell/qt/layouts/conditions.h"
 
 namespace bkconf {
-
-/// Hours of the day, with the box for none of them.
-inline Part PeriodPart(const std::string& name) {
-  return Row({Wide(10, Item(name + "Label")), Item(name + "None", Look::Tall),
-              Inside(name + "FromLabel", name + "From"), Inside(name + "ToLabel", name + "To"),
-              Space()});
-}
-
-/// Light and time, with their joining between them. What is not asked for keeps its room.
-inline Part ConditionsPart() {
-  const Part light = Frame(
-      "lightGroup", Column({Tight({Item("noLight", Look::Tall),
-                                   Row({Item("levelLabel"), Labelled("levelLabel", "level")})}),
-                            Space()}));
-  const Part joining = Column({Space(), Item("both"), Item("either"), Space()});
-  const Part time = Frame("timeGroup", Tight({PeriodPart("period1"), PeriodPart("period2")}));
-  return Tight({Item("noCondition", Look::Tall), Kept(Row({light, joining, Share(1, time)}))});
-}
 
 inline Part AlarmScreenLayout() {
   constexpr int captionCharacters = 50;
