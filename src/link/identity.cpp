@@ -23,9 +23,9 @@ void SetUpRead(const ModuleKind& kind, const ReadRow& row) {
   Window.bar->Start(row.barMaximum);
   // The scan of modules has no count of lines to show.
   Window.bar->visible = row.barMaximum > 0;
-  Show(Window.status->caption, row.status);
+  // A read that a Send repeats is a Send for the eye, and nobody waits for it.
+  Show(Window.status->caption, SentByUser() ? TextId::SendingData : row.status);
   if (row.command == ReadBase) Window.showFields(kind);
-  // A read that a Send repeats is nobody's.
   if (row.started && !SentByUser()) Raise(*row.started);
 }
 

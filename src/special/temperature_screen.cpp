@@ -173,17 +173,21 @@ void BeginRead() {
   Reveal();
 }
 
-void EndRead() {
+void FreeScreen(TextId status) {
   ReturnBar();
   if (!TemperatureScreen.shown) return;
-  Show(TemperatureScreen.status.caption, IsLive() ? TextId::LiveTemperaturesEnd : TextId::EditMode);
+  Show(TemperatureScreen.status.caption, status);
   Enable(true);
+}
+
+void EndRead() {
+  FreeScreen(IsLive() ? TextId::LiveTemperaturesEnd : TextId::EditMode);
 }
 
 /// What has come can be looked at.
 void LeaveRead() {
   awaited = false;
-  EndRead();
+  FreeScreen(TextId::EditMode);
 }
 
 void Leave() {

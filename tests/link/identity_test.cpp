@@ -220,10 +220,16 @@ const SetupCase SetupCases[] = {
     {5, "T80400", 0, -1, "Diagnose", "Diagnostics"},
     {9, "T80500", 0, -1, "Diagnose", "Diagnostics"},
     {9, "T80300", 0, -1, "Diagnose", "Diagnostics"},
-    // A Send that repeats a read is a read, with the read's own text and end of the bar.
-    {2, "T80000", 1, 4, ReadNl, ReadFr},
-    {3, "T80000", 1, 4, ReadNl, ReadFr},
-    {9, "T80000", 1, 164, ReadNl, ReadFr},
+    // A Send that repeats a read ends its bar where the read does, under the text of a Send.
+    {2, "T80000", 1, 4, WriteNl, WriteFr},
+    {2, "T81000", 1, 146, WriteNl, WriteFr},
+    {2, "T82000", 1, 1008, WriteNl, WriteFr},
+    {2, "T83000", 1, 8, WriteNl, WriteFr},
+    {3, "T80000", 1, 4, WriteNl, WriteFr},
+    {3, "T81000", 1, 1020, WriteNl, WriteFr},
+    {3, "T83000", 1, 1020, WriteNl, WriteFr},
+    {3, "T85000", 1, 21, WriteNl, WriteFr},
+    {9, "T80000", 1, 164, WriteNl, WriteFr},
 };
 
 INSTANTIATE_TEST_SUITE_P(Commands, SetupStepTest, testing::ValuesIn(SetupCases),

@@ -202,6 +202,7 @@ TEST_F(LiveTemperaturesTest, APortThatFailsLeavesTheRoomsThatHaveCome) {
   EXPECT_THROW(clock.Advance(10'000), RuntimeError);
   LeaveFailedTransfer();
   EXPECT_TRUE(TemperatureScreen.shown && TemperatureScreen.leave.enabled);
+  EXPECT_EQ(TemperatureScreen.status.caption, "Edit mode");
   EXPECT_EQ(Lines(),
             (Texts{"Ruimte 1 = 21°C", "Ruimte 2 = 22°C", "Ruimte 3 = 23°C", "", "", "", "", ""}));
   EXPECT_FALSE(TemperatureScreen.bar.visible);
