@@ -447,7 +447,7 @@ TEST_F(CellHandlersTest, ADisplayTableFreesTheWholeWindowAtItsLastCell) {
 TEST_F(CellHandlersTest, TheWeekdayNamesCloseAtTheirLastCellAndTheMenusWaitForStop) {
   Begin(3, "T85000", 21);
   int read = 0;
-  LinkHandlers[static_cast<std::size_t>(LinkEvent::DisplayRead)] = {[&] { ++read; }};
+  LinkHandlers[static_cast<std::size_t>(LinkEvent::WeekdayRead)] = {[&] { ++read; }};
   Handle("M6020032");
   EXPECT_TRUE(ReadIsClosed());
   EXPECT_TRUE(ButtonsAreBack());
