@@ -43,6 +43,8 @@ DisplayMenuScreenFields::DisplayMenuScreenFields()
       mainKeyA(*this, "mainKeyA"),
       mainArrowB(*this, "mainArrowB"),
       mainKeyB(*this, "mainKeyB"),
+      moduleHead(*this, "moduleHead"),
+      outputHead(*this, "outputHead"),
       arrowA(*this, "arrowA"),
       keyA(*this, "keyA"),
       arrowB(*this, "arrowB"),
@@ -51,6 +53,7 @@ DisplayMenuScreenFields::DisplayMenuScreenFields()
       open(*this, "open"),
       close(*this, "close"),
       ok(*this, "ok"),
+      outputsLeave(*this, "outputsLeave"),
       status(*this, "status"),
       bar(*this, "bar"),
       leave(*this, "leave") {
@@ -167,6 +170,13 @@ void OfferItems() {
   }
 }
 
+/// While they are shown, Enter and Escape are theirs.
+void ShowOutputs(bool shown) {
+  DisplayMenuScreen.outputsGroup.visible = shown;
+  DisplayMenuScreen.enter = shown ? &DisplayMenuScreen.ok : nullptr;
+  DisplayMenuScreen.escape = shown ? &DisplayMenuScreen.outputsLeave : nullptr;
+}
+
 /// The texts stay: what a line is called does not depend on what it controls.
 void ClearOutputs() {
   for (const auto& line : DisplayMenuScreen.lines) {
@@ -177,7 +187,7 @@ void ClearOutputs() {
     row->module.Clear();
     row->output.Clear();
   }
-  DisplayMenuScreen.outputsGroup.visible = false;
+  ShowOutputs(false);
 }
 
 /// An output's number as the fields have it, counted from 1. A file can hold any number.
@@ -310,11 +320,7 @@ void OpenOutputs(int line) {
   outputLine = line;
   ShowPair(DisplayMenuScreen.open, OutputCell(FirstOutput, line));
   ShowPair(DisplayMenuScreen.close, OutputCell(FirstSecondOutput, line));
-  DisplayMenuScreen.outputsGroup.visible = true;
-}
-
-void CloseOutputs() {
-  DisplayMenuScreen.outputsGroup.visible = false;
+  ShowOutputs(true);
 }
 
 bool IsComplete(const AutomationFields& row) {
@@ -331,7 +337,7 @@ void ConfirmOutputs() {
   if (!IsComplete(DisplayMenuScreen.open) || !IsComplete(DisplayMenuScreen.close)) {
     Messages->Ask(std::string(Text(TextId::Attention)), std::string(Text(TextId::NotComplete)),
                   [](bool goesOn) {
-                    if (!goesOn) CloseOutputs();
+                    if (!goesOn) ShowOutputs(false);
                   });
     return;
   }
@@ -339,7 +345,7 @@ void ConfirmOutputs() {
   StorePair(DisplayMenuScreen.close, OutputCell(FirstSecondOutput, outputLine));
   ShowModule(outputLine);
   ShowOutput(outputLine);
-  CloseOutputs();
+  ShowOutputs(false);
 }
 
 void TypeLetter(ListField& letter) {
@@ -458,12 +464,15 @@ void ShowCaptions() {
            {&DisplayMenuScreen.scrollDown, TextId::Scroll},
            {&DisplayMenuScreen.mainArrowA, TextId::KeyArrowA},
            {&DisplayMenuScreen.mainArrowB, TextId::KeyArrowB},
+           {&DisplayMenuScreen.moduleHead, TextId::ModuleAddress},
+           {&DisplayMenuScreen.outputHead, TextId::OutputCaption},
            {&DisplayMenuScreen.arrowA, TextId::KeyArrowA},
            {&DisplayMenuScreen.arrowB, TextId::KeyArrowB},
            {&DisplayMenuScreen.outputsGroup, TextId::AutomationOutputs},
            {&DisplayMenuScreen.open.label, TextId::OpenOutput},
            {&DisplayMenuScreen.close.label, TextId::CloseOutput},
            {&DisplayMenuScreen.ok, TextId::Ok},
+           {&DisplayMenuScreen.outputsLeave, TextId::Leave},
            {&DisplayMenuScreen.leave, TextId::Leave},
        })) {
     Show(row.field->caption, row.text);
@@ -508,11 +517,12 @@ void LoadDisplayMenuScreen() {
         &DisplayMenuScreen.keyA, &DisplayMenuScreen.keyB}) {
     text->onChange = MarkChange;
   }
-  DisplayMenuScreen.outputsGroup.visible = false;
+  ShowOutputs(false);
   DisplayMenuScreen.screens.onPick = SelectScreen;
   DisplayMenuScreen.category.onPick = PickCategory;
   DisplayMenuScreen.category.onTyped = TypeCategory;
   DisplayMenuScreen.ok.onClick = ConfirmOutputs;
+  DisplayMenuScreen.outputsLeave.onClick = [] { ShowOutputs(false); };
   DisplayMenuScreen.leave.onClick = Leave;
   DisplayMenuScreen.onClose = Leave;
   Listen(LinkEvent::DisplayReadStarted, BeginRead);

@@ -48,6 +48,8 @@ struct DisplayMenuScreenFields : Screen {
   TextField mainKeyA;  ///< of the main screen
   LabelField mainArrowB;
   TextField mainKeyB;
+  LabelField moduleHead;  ///< over what the lines switch
+  LabelField outputHead;
   std::vector<std::unique_ptr<MenuLineFields>> lines;
   LabelField arrowA;
   TextField keyA;  ///< of the screen that is chosen
@@ -58,6 +60,7 @@ struct DisplayMenuScreenFields : Screen {
   AutomationFields open;
   AutomationFields close;
   ButtonField ok;
+  ButtonField outputsLeave;
 
   LabelField status;
   ProgressField bar;

@@ -98,7 +98,7 @@ inline Part Tiles(int columns, std::vector<Part> parts) {
   return {.kind = PartKind::Tiles, .parts = std::move(parts), .columns = columns};
 }
 /// Rows of fields, close to each other, in columns. A row whose fields are all hidden leaves no
-/// hole.
+/// hole. A space leaves its place in the row empty.
 inline Part Columns(std::vector<Part> rows) {
   return {.kind = PartKind::Columns, .parts = std::move(rows)};
 }

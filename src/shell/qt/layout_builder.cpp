@@ -177,7 +177,7 @@ QLayout* LayoutBuilder::BuildColumns(const Part& part) {
   table->setVerticalSpacing(LabelSpacing);
   for (int row = 0; const Part& line : part.parts) {
     for (int column = 0; const Part& cell : line.parts) {
-      table->addWidget(Place(cell), row, column);
+      if (cell.kind != PartKind::Space) table->addWidget(Place(cell), row, column);
       ++column;
     }
     ++row;

@@ -179,6 +179,11 @@ class DisplayScreensViewTest : public QObject, private ScreenStage {
       }
     }
     QCOMPARE(Button("line1Outputs")->text(), Say(TextId::OutputsChoice));
+    QCOMPARE(Label("moduleHead")->text(), Say(TextId::ModuleAddress));
+    QCOMPARE(Place(Label("moduleHead")).left(), Place(List("line1Module")).left());
+    QCOMPARE(Place(Label("outputHead")).left(), Place(List("line1Output")).left());
+    QCOMPARE(List("line2Output")->accessibleName(),
+             Say(TextId::OutputCaption) + QStringLiteral(" 2"));
   }
 
   void WhatIsTypedAndPickedReachesTheTable() {
@@ -239,6 +244,23 @@ class DisplayScreensViewTest : public QObject, private ScreenStage {
     QCOMPARE(LcdScreen1[cell + 1].Whole(), 9);
     QCOMPARE(List("line3Module")->currentText(), QStringLiteral("D"));
     QCOMPARE(List("line3Output")->currentText(), QStringLiteral("10"));
+  }
+
+  void EscapeLeavesThemBeforeItLeavesTheWindowAndEnterStoresThem() {
+    ShowState(StateOf("outputs"));
+    const int cell = FirstOutput + 2 * MenuLines + 4;
+    QTest::keyClick(List("openModule"), Qt::Key_D);
+    QTest::keyClick(List("openModule"), Qt::Key_Escape);
+    QVERIFY(!Panel("outputsGroup")->isVisible() && Window()->isVisible());
+    QCOMPARE(FieldInFocus(), QStringLiteral("line3Outputs"));
+    QCOMPARE(LcdScreen1[cell].Whole(), int{'B'});
+    Press("line3Outputs");
+    Pick("openModule", "D");
+    QTest::keyClick(List("openModule"), Qt::Key_Return);
+    QVERIFY(!Panel("outputsGroup")->isVisible());
+    QCOMPARE(LcdScreen1[cell].Whole(), int{'D'});
+    QTest::keyClick(Window()->focusWidget(), Qt::Key_Escape);
+    QVERIFY(!Window()->isVisible());
   }
 
   void IncompleteOutputsAreToldAndCancelClosesThem() {

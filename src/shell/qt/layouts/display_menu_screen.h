@@ -40,12 +40,12 @@ inline Part MainScreenPart() {
 
 inline Part MenuLinesPart() {
   constexpr int textCharacters = 10;
-  std::vector<Part> rows;
+  std::vector<Part> rows = {Row({Space(), Space(), Item("moduleHead"), Item("outputHead")})};
   for (int line = 1; line <= MenuLines; ++line) {
     const std::string name = "line" + std::to_string(line);
     rows.push_back(Row({Item(name), DisplayText(textCharacters, name, name + "Text"),
-                        Labelled(name, name + "Module"), Labelled(name, name + "Output"),
-                        Item(name + "Outputs")}));
+                        Labelled("moduleHead " + name, name + "Module"),
+                        Labelled("outputHead " + name, name + "Output"), Item(name + "Outputs")}));
   }
   return Column({Columns(std::move(rows)), KeysPart("arrowA", "keyA", "arrowB", "keyB")});
 }
@@ -58,7 +58,8 @@ inline Part AutomationPart() {
                         Labelled(name + "Label", name + "Output")}));
   }
   return Frame("outputsGroup",
-               Column({Columns(std::move(rows)), Row({Space(), Item("ok", Look::Primary)})}));
+               Column({Columns(std::move(rows)),
+                       Row({Space(), Item("ok", Look::Primary), Item("outputsLeave")})}));
 }
 
 inline Part DisplayMenuScreenLayout() {
