@@ -122,6 +122,16 @@ class OpenedWindowsTest : public QObject {
     QCOMPARE(openedWindow_->focusWidget(), openedWindow_->findChild<QLineEdit*>());
   }
 
+  void AWindowThatOpensOutOfUseGetsTheKeyboardOnceItIsOfUse() {
+    opened_->first.enabled = opened_->text.enabled = false;
+    Open();
+    QVERIFY(openedWindow_->focusWidget() == nullptr);
+    RunEvent([this] { opened_->text.enabled = true; });
+    QCOMPARE(openedWindow_->focusWidget(), openedWindow_->findChild<QLineEdit*>());
+    QTest::keyClick(openedWindow_->focusWidget(), Qt::Key_Escape);
+    QVERIFY(!openedWindow_->isVisible());
+  }
+
   void AnOpenedWindowFitsItsContentAndStandsInTheMiddleOfItsOpener() {
     Open();
     QCOMPARE(openedWindow_->size(), openedWindow_->sizeHint());

@@ -190,6 +190,7 @@ class TemperatureScreenViewTest : public QObject, private ScreenStage {
     }
     const QSize size = Window()->size();
     PickRow("programRoom", 0);
+    QCoreApplication::processEvents();
     QCOMPARE(Window()->size(), size);
     QVERIFY(Find<QRadioButton>("day1")->isChecked());
     QCOMPARE(Label("period1From")->text(), QStringLiteral("06:30"));

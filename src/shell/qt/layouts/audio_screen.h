@@ -11,8 +11,7 @@ inline Part AudioScreenLayout() {
       "generalGroup", Row({Item("zonesLabel"), Labelled("zonesLabel", "zones"),
                            Item("sourcesLabel"), Labelled("sourcesLabel", "sources"), Space()}));
   // The one is of the first zone, the other of those behind it.
-  const Part surround =
-      Pile({Kept(Item("surround", Look::Tall)), Kept(Item("surroundHint", Look::Tall))});
+  const Part surround = Pile({Item("surround", Look::Tall), Item("surroundHint", Look::Tall)});
   const Part main = Frame(
       "mainGroup", Column({Form({Line("sourceLabel", "source"),
                                  Line("mainVolumeLabel", "mainVolume"), Line("gainLabel", "gain")}),
