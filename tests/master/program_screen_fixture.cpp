@@ -13,7 +13,7 @@ ProgramScreenTest::ProgramScreenTest(WhichList which)
       dirty(light ? MasterLightDirty : MasterTimeDirty),
       slots(light ? 200 : 110),
       slotSize(light ? 5 : 9) {
-  Now = [this] { return Moment{.date = today}; };
+  Now = [this] { return bkconf::Moment{.date = today}; };
 }
 
 void ProgramScreenTest::Open(const std::vector<Slot>& list, int language) {
