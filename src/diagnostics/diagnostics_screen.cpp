@@ -184,11 +184,16 @@ void ShowPanel(const TestChoice* choice) {
   if (choice != nullptr) choice->open();
 }
 
-/// Not while a test runs: the module would go on with it.
 void Leave() {
-  if (!DiagnosticsScreen.leave.enabled) return;
   ShowPanel(nullptr);
   DiagnosticsScreen.shown = false;
+}
+
+/// The button to leave waits for the end of a test. Closing the window does not, or a module that
+/// never answers would keep the user here.
+void Close() {
+  LeaveRunningTest();
+  Leave();
 }
 
 void OfferChoices() {
@@ -244,7 +249,8 @@ void LoadDiagnosticsScreen() {
   LoadChoices();
   LoadLiveTests();
   DiagnosticsScreen.leave.onClick = Leave;
-  DiagnosticsScreen.onClose = Leave;
+  DiagnosticsScreen.onClose = Close;
+  DiagnosticsScreen.escape = &DiagnosticsScreen.leave;
 }
 
 void OpenDiagnosticsScreen() {

@@ -71,6 +71,15 @@ void StopRunningTest() {
   sendStop();
 }
 
+void LeaveRunningTest() {
+  if (RunningTest == nullptr) return;
+  if (RunningTest->stop != nullptr && RunningTest->stop->enabled) {
+    StopRunningTest();
+  } else {
+    LeaveTransfer();
+  }
+}
+
 void AdvanceTestBar() {
   ProgressField& bar = DiagnosticsScreen.bar;
   bar.SetValue(bar.Value() < bar.Maximum() ? bar.Value() + 1 : 0);

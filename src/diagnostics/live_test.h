@@ -29,6 +29,10 @@ inline const LiveTest* RunningTest = nullptr;
 void StartTest(const LiveTest& test);
 /// What a stop button does: tells the module, and ends the test without waiting for an answer.
 void StopRunningTest();
+/// What closing the window does to a test that runs: it is stopped where it can be, and left like a
+/// transfer that cannot go on where the module never answered or ends by itself. Nothing where none
+/// runs.
+void LeaveRunningTest();
 
 /// Moves the bar of the screen. At its end it begins anew, since some tests have none.
 void AdvanceTestBar();

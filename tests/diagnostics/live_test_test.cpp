@@ -134,7 +134,8 @@ TEST_P(StoppedTestTest, StoppingEndsItAtOnce) {
   Run();
   const Snapshot before = TakeSnapshot();
   Row().stop->Click();
-  ExpectOnlyChanged(before, {});
+  ExpectOnlyChanged(before, {"PendingCommand"});
+  EXPECT_EQ(PendingCommand, Cell());
   ExpectFree(true);
   EXPECT_EQ(Status(), "Ready");
   EXPECT_EQ(MainWindow.status.caption, "Ready");
@@ -221,7 +222,7 @@ TEST_P(EndlessTestTest, StopOfTheModuleEndsTheOthersToo) {
   EXPECT_EQ(Status(), "Ready");
 }
 
-TEST_P(LiveTestTest, NeitherClosingNorAChoiceLeavesARunningTest) {
+TEST_P(LiveTestTest, NeitherLeavingNorAChoiceEndsARunningTest) {
   OpenPanel();
   for (const bool accepted : {false, true}) {
     if (accepted) {
@@ -229,7 +230,6 @@ TEST_P(LiveTestTest, NeitherClosingNorAChoiceLeavesARunningTest) {
     } else {
       Row().start->Click();
     }
-    DiagnosticsScreen.Close();
     DiagnosticsScreen.leave.Click();
     for (const auto& choice : DiagnosticsScreen.choices) choice->Click();
     Row().start->Click();
@@ -238,6 +238,41 @@ TEST_P(LiveTestTest, NeitherClosingNorAChoiceLeavesARunningTest) {
     EXPECT_EQ(RunningTest == nullptr, false);
     LeaveTransfer();
   }
+}
+
+TEST_P(LiveTestTest, ClosingTheWindowLeavesATestThatNobodyAnswers) {
+  for (const bool portOpens : {true, false}) {
+    OpenPanel();
+    line.canOpen = portOpens;
+    Row().start->Click();
+    clock.Advance(3000);
+    const std::string before = line.AllWritten();
+    DiagnosticsScreen.Close();
+    EXPECT_FALSE(DiagnosticsScreen.shown);
+    ExpectFree(true);
+    EXPECT_FALSE(DiagnosticsScreen.bar.visible || MainWindow.transferBar.visible);
+    EXPECT_EQ(MainWindow.status.caption, "Edit mode");
+    EXPECT_EQ(PendingCommand, Cell());
+    // A clock that was asked is told, as whenever its panel is left.
+    const std::string told = portOpens && Row().choice == "clockChoice" ? "T99999\n\r" : "";
+    EXPECT_EQ(line.AllWritten(), before + Repeated(50, told));
+  }
+}
+
+TEST_P(StoppedTestTest, ClosingTheWindowStopsARunningTest) {
+  OpenPanel();
+  Run();
+  WrittenSince();
+  Row().stop->Click();
+  const std::string stop = WrittenSince();
+  ASSERT_FALSE(stop.empty());
+  Run();
+  WrittenSince();
+  DiagnosticsScreen.Close();
+  EXPECT_EQ(WrittenSince(), stop);
+  EXPECT_FALSE(DiagnosticsScreen.shown);
+  ExpectFree(true);
+  EXPECT_EQ(MainWindow.status.caption, "Ready");
 }
 
 TEST_P(LiveTestTest, ARefusedIdentityGivesEverythingBack) {

@@ -171,16 +171,24 @@ void Stage::AwaitWindow(std::string_view title) {
       << desktop().ActiveWindow() << "\"";
 }
 
+void Stage::OpenMenu(std::string_view menu) {
+  // The first click is lost where a list that was just picked from is still about to close.
+  const bool open = WaitFor([&] {
+    ClickOn("menu item", menu);
+    return WaitFor([&] { return desktop().Find("popup menu", menu).has_value(); },
+                   std::chrono::seconds(3));
+  });
+  EXPECT_TRUE(open) << "the menu \"" << menu << "\" does not open";
+}
+
 void Stage::ClickOnEntry(std::string_view menu, std::string_view entry) {
-  ClickOn("menu item", menu);
-  Await("popup menu", menu);
+  OpenMenu(menu);
   ClickOn("menu item", entry);
   AwaitGone("popup menu", menu);
 }
 
 bool Stage::IsEntryEnabled(std::string_view menu, std::string_view entry) {
-  ClickOn("menu item", menu);
-  Await("popup menu", menu);
+  OpenMenu(menu);
   const bool enabled = IsEnabled("menu item", entry);
   desktop().Press({"Escape"});
   AwaitGone("popup menu", menu);

@@ -67,6 +67,7 @@ class Stage : public ::testing::Test {
   void DoubleClickOn(std::string_view role, std::string_view name) {
     desktop().DoubleClick(AwaitStill(role, name));
   }
+  void OpenMenu(std::string_view menu);
   // Opens a menu of the bar and picks an entry of it.
   void ClickOnEntry(std::string_view menu, std::string_view entry);
   // Opens a menu of the bar, looks, and closes it again.

@@ -7,6 +7,7 @@
 #include "diagnostics/clock_panel.h"
 #include "diagnostics/detector_panel.h"
 #include "diagnostics/diagnostics_screen.h"
+#include "diagnostics/live_test.h"
 #include "image/tables.h"
 #include "link/link_events.h"
 #include "link/link_ticks.h"
@@ -170,23 +171,33 @@ class DiagnosticsScreenViewTest : public QObject, private ScreenStage {
     QVERIFY(Button("buttonsStart")->isEnabled() && Button("leave")->isEnabled());
   }
 
-  void WhileATestRunsTheWindowStays_data() {
+  void WhileATestRunsEscapeLeavesNothing_data() {
     AddStatesIf([](const TestState& each) { return each.stage != Stage::Chosen; });
   }
-  void WhileATestRunsTheWindowStays() {
+  void WhileATestRunsEscapeLeavesNothing() {
     QFETCH(int, state);
     ShowState(States[state]);
     QVERIFY(!Button("leave")->isEnabled());
     for (const char* choice : {"lineChoice", "buttonsChoice", "outputsChoice"}) {
       QVERIFY2(!Button(choice)->isEnabled(), choice);
     }
-    Window()->close();
     QTest::keyClick(Window(), Qt::Key_Escape);
     QVERIFY(Window()->isVisible() && DiagnosticsScreen.shown);
     End();
     QVERIFY(Button("leave")->isEnabled());
     QTest::keyClick(Window(), Qt::Key_Escape);
     QVERIFY(!Window()->isVisible());
+  }
+
+  void ClosingTheWindowLeavesARunningTest_data() {
+    AddStatesIf([](const TestState& each) { return each.stage != Stage::Chosen; });
+  }
+  void ClosingTheWindowLeavesARunningTest() {
+    QFETCH(int, state);
+    ShowState(States[state]);
+    Window()->close();
+    QVERIFY(!Window()->isVisible() && !DiagnosticsScreen.shown);
+    QVERIFY(RunningTest == nullptr);
   }
 
   void TheBarShowsWhatHasComeAndGoesWithTheTest() {

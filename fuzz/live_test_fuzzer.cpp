@@ -1,0 +1,170 @@
+// Feeds every live test with lines that no module would send, and looks that a line that is too
+// short, too long, or of a detector that has no fields changes nothing. Built with libFuzzer by
+// dev/fuzz. The first byte of an input chooses the test, the rest are lines that end in '\n'.
+#include <array>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "diagnostics/detector_panel.h"
+#include "diagnostics/diagnostics_screen.h"
+#include "diagnostics/live_test.h"
+#include "image/tables.h"
+#include "link/link_events.h"
+#include "link/receive_dispatcher.h"
+#include "link/transfer.h"
+#include "platform/machine.h"
+#include "session/state.h"
+#include "shell/main_window.h"
+
+namespace bkconf {
+namespace {
+
+constexpr int Detectors = 7;
+
+class NoTicks : public TickDriver {
+ public:
+  void Arm(Tick& /*tick*/) override {}
+  void Disarm(Tick& /*tick*/) override {}
+};
+
+class DeafPort : public SerialPort {
+ public:
+  void SetNumber(int /*number*/) override {}
+  std::string DeviceOf(int /*number*/) const override { return ""; }
+  bool Open() override { return open_ = true; }
+  void Close() override { open_ = false; }
+  bool IsOpen() const override { return open_; }
+  int BytesWaiting() override { return 0; }
+  void FlushInput() override {}
+  std::optional<char> Read() override { return std::nullopt; }
+  void Write(std::string_view /*characters*/) override {}
+
+ private:
+  bool open_ = false;
+};
+
+/// A test, and the lines that mean something to it.
+struct Subject {
+  int kind;
+  int version;
+  std::string_view choice;
+  const ButtonField& start;
+  std::size_t shortest;
+  bool ofDetectors = false;
+};
+
+constexpr std::size_t Longest = 14;
+
+const std::array<Subject, 7> Subjects{{
+    {0, 65, "lineChoice", DiagnosticsScreen.line.start, 6},
+    {0, 65, "buttonsChoice", DiagnosticsScreen.buttons.start, 3},
+    {0, 65, "outputsChoice", DiagnosticsScreen.outputs.start, 0},
+    {9, 65, "lightChoice", DiagnosticsScreen.light.start, 3},
+    {9, 65, "clockChoice", DiagnosticsScreen.clock.ask, 5},
+    {5, 64, "detectorsChoice", DiagnosticsScreen.detectors.start, 4, true},
+    {5, 65, "detectorsChoice", DiagnosticsScreen.detectors.start, 14, true},
+}};
+
+void Require(bool holds, const char* what, std::string_view line) {
+  if (holds) return;
+  std::fprintf(stderr, "does not hold: %s, after \"%.*s\"\n", what, static_cast<int>(line.size()),
+               line.data());
+  std::abort();
+}
+
+/// All that a line could change of the screen, and of the cells behind it.
+std::string Seen() {
+  std::string seen;
+  const auto add = [&seen](const std::string& text) { seen += text + '\n'; };
+  for (const Field* field : DiagnosticsScreen.fields) {
+    add(field->caption);
+    add(std::to_string(field->enabled) + std::to_string(field->visible));
+    if (field->colour) add(std::to_string(field->colour->red * 256 + field->colour->blue));
+    if (const auto* list = dynamic_cast<const ListField*>(field)) add(list->Text());
+    if (const auto* box = dynamic_cast<const ListBoxField*>(field)) {
+      add(std::to_string(box->Items().size()));
+    }
+  }
+  add(std::to_string(DiagnosticsScreen.bar.Value()));
+  for (int cell = 0; cell < DiagBuffer.Size(); ++cell) add(DiagBuffer[cell].Text());
+  return seen;
+}
+
+/// What the link itself looks for in a line, whichever test runs.
+bool IsForTheLink(std::string_view line) {
+  return line.starts_with("M80000") || line.starts_with("M70000") || line.starts_with("STOP");
+}
+
+bool Means(const Subject& subject, std::string_view line) {
+  if (IsForTheLink(line)) return true;
+  if (line.size() < subject.shortest || line.size() > Longest) return false;
+  if (!subject.ofDetectors) return true;
+  return Cell(std::string(line.substr(1, 2))).Whole() < Detectors;
+}
+
+void StartSubject(const Subject& subject) {
+  ActiveModuleType = subject.kind;
+  ModuleVersion = subject.version;
+  AlarmImage[148] = subject.version;
+  AlarmImage[123] = Detectors;
+  OpenDiagnosticsScreen();
+  for (const auto& choice : DiagnosticsScreen.choices) {
+    if (choice->name == subject.choice) choice->Click();
+  }
+  subject.start.Click();
+  Require(RunningTest != nullptr, "the test starts", "");
+  StopLink();
+  Raise(LinkEvent::TestStarted);
+}
+
+void TakeLine(const Subject& subject, std::string_view line) {
+  const std::string before = Seen();
+  RxLine = line;
+  ReceiveDispatcher();
+  if (!Means(subject, line)) {
+    Require(Seen() == before, "a line that means nothing changes nothing", line);
+  }
+  const ProgressField& bar = DiagnosticsScreen.bar;
+  Require(bar.Value() <= bar.Maximum(), "the bar stays in its range", line);
+}
+
+void TryLines(std::string_view input) {
+  if (input.empty()) return;
+  const Subject& subject = Subjects[static_cast<unsigned char>(input[0]) % Subjects.size()];
+  input.remove_prefix(1);
+  StartSubject(subject);
+  while (!input.empty() && RunningTest != nullptr) {
+    const std::size_t end = input.find('\n');
+    TakeLine(subject, input.substr(0, end));
+    input.remove_prefix(end == std::string_view::npos ? input.size() : end + 1);
+  }
+  LeaveTransfer();
+  DiagnosticsScreen.Close();
+  Require(!DiagnosticsScreen.shown, "the screen can be left", "");
+}
+
+void LoadOnce() {
+  static NoTicks ticks;
+  static DeafPort port;
+  static bool loaded = false;
+  if (loaded) return;
+  loaded = true;
+  ActiveTickDriver = &ticks;
+  Port = &port;
+  BusyLoop = [](std::int64_t) {};
+  Language = 1;
+  LoadMainWindow();
+}
+
+}  // namespace
+}  // namespace bkconf
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  bkconf::LoadOnce();
+  bkconf::TryLines({reinterpret_cast<const char*>(data), size});
+  return 0;
+}
