@@ -155,6 +155,15 @@ TemperatureChoice::TemperatureChoice(Screen& screen, const std::string& name, Op
       temperature(screen, name + "Degrees"),
       room(screen, name + "Room") {}
 
+namespace {
+
+/// Where the first of the choices stands, also while they are made.
+OptionField* FirstTemperature(ActionPicker& picker) {
+  return &picker.temperatures[0].option;
+}
+
+}  // namespace
+
 ActionPicker::ActionPicker(Screen& screen, const std::string& prefix, const PickerVariant& variant)
     : heading(screen, prefix + "Heading"),
       letterLabel(screen, prefix + "LetterLabel"),
@@ -168,9 +177,9 @@ ActionPicker::ActionPicker(Screen& screen, const std::string& prefix, const Pick
       action(screen, prefix + "Action"),
       value(screen, prefix + "Value"),
       temperatures{TemperatureChoice(screen, prefix + "RoomTemperature", nullptr),
-                   TemperatureChoice(screen, prefix + "RoomBase", &temperatures[0].option),
-                   TemperatureChoice(screen, prefix + "AllTemperature", &temperatures[0].option),
-                   TemperatureChoice(screen, prefix + "AllBase", &temperatures[0].option)},
+                   TemperatureChoice(screen, prefix + "RoomBase", FirstTemperature(*this)),
+                   TemperatureChoice(screen, prefix + "AllTemperature", FirstTemperature(*this)),
+                   TemperatureChoice(screen, prefix + "AllBase", FirstTemperature(*this))},
       simulationOn(screen, prefix + "SimulationOn", nullptr),
       simulationOff(screen, prefix + "SimulationOff", &simulationOn),
       variant_(variant) {
