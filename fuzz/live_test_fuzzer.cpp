@@ -54,19 +54,19 @@ struct Subject {
   std::string_view choice;
   const ButtonField& start;
   std::size_t shortest;
-  bool ofDetectors = false;
+  int indexes = 0;  ///< how many a line can be of; 0 where it has no index
 };
 
 constexpr std::size_t Longest = 14;
 
 const std::array<Subject, 7> Subjects{{
     {0, 65, "lineChoice", DiagnosticsScreen.line.start, 6},
-    {0, 65, "buttonsChoice", DiagnosticsScreen.buttons.start, 3},
+    {0, 65, "buttonsChoice", DiagnosticsScreen.buttons.start, 3, 100},
     {0, 65, "outputsChoice", DiagnosticsScreen.outputs.start, 0},
     {9, 65, "lightChoice", DiagnosticsScreen.light.start, 3},
     {9, 65, "clockChoice", DiagnosticsScreen.clock.ask, 5},
-    {5, 64, "detectorsChoice", DiagnosticsScreen.detectors.start, 4, true},
-    {5, 65, "detectorsChoice", DiagnosticsScreen.detectors.start, 14, true},
+    {5, 64, "detectorsChoice", DiagnosticsScreen.detectors.start, 4, Detectors},
+    {5, 65, "detectorsChoice", DiagnosticsScreen.detectors.start, 14, Detectors},
 }};
 
 void Require(bool holds, const char* what, std::string_view line) {
@@ -102,8 +102,10 @@ bool IsForTheLink(std::string_view line) {
 bool Means(const Subject& subject, std::string_view line) {
   if (IsForTheLink(line)) return true;
   if (line.size() < subject.shortest || line.size() > Longest) return false;
-  if (!subject.ofDetectors) return true;
-  return Cell(std::string(line.substr(1, 2))).Whole() < Detectors;
+  if (subject.indexes == 0) return true;
+  const auto digit = [](char each) { return each >= '0' && each <= '9'; };
+  if (!digit(line[1]) || !digit(line[2])) return false;
+  return (line[1] - '0') * 10 + line[2] - '0' < subject.indexes;
 }
 
 void StartSubject(const Subject& subject) {

@@ -27,7 +27,8 @@ std::string ClockText() {
 
 void TakeLine() {
   const std::string time = ClockText();
-  if (RxLine.size() < LineLength || time == LastButtonTime) return;
+  // A line that was torn on the way is no press of the first button.
+  if (!HasDigits(2, LineLength) || time == LastButtonTime) return;
   LastButtonTime = time;
   const std::string number = std::to_string(1 + NumberInLine(2, LineLength));
   ButtonPanel& panel = DiagnosticsScreen.buttons;

@@ -114,8 +114,10 @@ void OfferUpdate() {
 }
 
 void TakeLine() {
+  // A line that was torn on the way is not one of the first detector.
+  if (RxLine.size() < (Measures() ? LongLine : ShortLine) || !HasDigits(2, 3)) return;
   const int detector = NumberInLine(2, 3);
-  if (RxLine.size() < (Measures() ? LongLine : ShortLine) || detector >= Detectors()) return;
+  if (detector >= Detectors()) return;
   AdvanceTestBar();
   ShowContact(Fields(detector).contact);
   if (!Measures()) return;

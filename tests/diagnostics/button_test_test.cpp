@@ -82,13 +82,13 @@ TEST_F(ButtonTestTest, AShortLineIsNoPressAndTakesNoSecond) {
   EXPECT_EQ(History(), Rows{"Tijd: 09:05:03  Knop: 5"});
 }
 
-TEST_F(ButtonTestTest, DigitsCountUpToTheFirstThatIsNone) {
+TEST_F(ButtonTestTest, ALineWithoutANumberIsNoPressAndTakesNoSecond) {
   RunButtons();
-  Tell("M1x");
-  EXPECT_EQ(Number(), "2");
-  now.second = 4;
-  Tell("Mx1");
-  EXPECT_EQ(Number(), "1");
+  for (const char* text : {"M1x", "Mx1", "M+1", "M 1", "Mxx"}) Tell(text);
+  EXPECT_TRUE(History().empty());
+  EXPECT_EQ(Number(), "");
+  Tell("M04");
+  EXPECT_EQ(History(), Rows{"Tijd: 09:05:03  Knop: 5"});
 }
 
 TEST_F(ButtonTestTest, StartingEmptiesTheHistoryAndForgetsTheSecond) {

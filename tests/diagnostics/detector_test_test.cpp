@@ -237,12 +237,23 @@ TEST_F(DetectorTestTest, ALogicThatIsNotListedLeavesItsFieldEmpty) {
 
 TEST_F(DetectorTestTest, DigitsCountUpToTheFirstThatIsNone) {
   RunDetectors(65, 12);
-  Tell("M1x012x45x7x01");
+  Tell("M01012x45x7x01");
   EXPECT_EQ(Shown(2), "Rust|12|>|");
   EXPECT_EQ(Level(2), Cell(0));
-  Tell("Mxx10012304xx!");
+  Tell("M0010012304xx!");
   EXPECT_EQ(Shown(1), "TRIGGER!|123|<|4");
   EXPECT_EQ(Code(1), Cell("x!"));
+}
+
+TEST_F(DetectorTestTest, ALineWithoutANumberOfADetectorChangesNothing) {
+  RunDetectors(65, 12);
+  const Snapshot before = TakeSnapshot();
+  for (const char* text :
+       {"Mxx10012301501", "M1x10012301501", "Mx110012301501", "M+110012301501"}) {
+    Tell(text);
+  }
+  ExpectOnlyChanged(before, {});
+  for (int detector = 1; detector <= 12; ++detector) EXPECT_EQ(Shown(detector), "|||");
 }
 
 TEST_F(DetectorTestTest, OnceSeenOnlyContactAndMeasuredValueFollow) {
