@@ -112,9 +112,8 @@ inline constexpr PickerVariant LightPicker{.types = LightPickerTypes,
                                            .heading = TextId::LightModuleTypeHeading};
 
 /// The detectors of an alarm module, which is no target of its own.
-inline constexpr PickerVariant AlarmPicker{.types = AlarmPickerTypes,
-                                           .heading = TextId::ModuleTypeHeading,
-                                           .code = TextId::CodeCaption};
+inline constexpr PickerVariant AlarmPicker{
+    .types = AlarmPickerTypes, .heading = TextId::ModuleTypeHeading, .code = TextId::CodeCaption};
 
 /// A list with its caption; both appear and disappear together.
 struct LabelledList {

@@ -256,6 +256,7 @@ void LoadRoomProgram() {
   for (int day = 0; day < WeekDays; ++day) {
     DayFields& fields = *Program().days[static_cast<std::size_t>(day)];
     Show(fields.day.caption, DayNames[static_cast<std::size_t>(day)]);
+    Show(fields.copy.toolTip, TextId::CopyDayHint);
     fields.day.onChoose = [day] { PickDay(day); };
     fields.copy.onChange = [day] { CopyTo(day); };
   }

@@ -55,6 +55,16 @@ TEST_F(RoomProgramTest, NothingIsShownUntilARoomIsPicked) {
   EXPECT_EQ(Program().room.Text(), "Pièce ?");
 }
 
+TEST_F(RoomProgramTest, ABoxBesideADayTellsWhatItDoes) {
+  for (const int language : {1, 2}) {
+    OpenProgram(3, language);
+    for (const auto& day : Program().days) {
+      EXPECT_EQ(day->copy.toolTip,
+                language == 1 ? "Neem de getoonde dag hier over" : "Reprendre ici le jour affiché");
+    }
+  }
+}
+
 TEST_F(RoomProgramTest, OpeningAgainForgetsTheRoom) {
   OpenProgram();
   Program().room.Pick(2);
