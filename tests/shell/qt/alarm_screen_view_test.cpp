@@ -315,15 +315,9 @@ class AlarmScreenViewTest : public QObject, private ScreenStage {
     }
   }
 
-  void TheWindowFitsOnASmallDesktop() {
-    const QSize size = Window()->sizeHint();
-    QVERIFY(size.width() <= SmallDesktop.width() && size.height() <= SmallDesktop.height());
-  }
+  void TheWindowFitsOnASmallDesktop() { ExpectThatItFitsOnASmallDesktop(); }
 
-  void EveryStateIsWholeNamedAndInReadingOrder_data() {
-    QTest::addColumn<int>("state");
-    for (int state = 0; const AlarmState& each : States) QTest::newRow(each.name) << state++;
-  }
+  void EveryStateIsWholeNamedAndInReadingOrder_data() { AddStates(States); }
   void EveryStateIsWholeNamedAndInReadingOrder() {
     QFETCH(int, state);
     ShowState(States[state]);

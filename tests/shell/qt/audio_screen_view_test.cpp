@@ -155,14 +155,10 @@ class AudioScreenViewTest : public QObject, private ScreenStage {
 
   void TheWindowFitsOnASmallDesktop() {
     ShowState(StateOf("surround, zone 2"));
-    const QSize size = Window()->sizeHint();
-    QVERIFY(size.width() <= SmallDesktop.width() && size.height() <= SmallDesktop.height());
+    ExpectThatItFitsOnASmallDesktop();
   }
 
-  void EveryStateIsWholeNamedAndInReadingOrder_data() {
-    QTest::addColumn<int>("state");
-    for (int state = 0; const AudioState& each : States) QTest::newRow(each.name) << state++;
-  }
+  void EveryStateIsWholeNamedAndInReadingOrder_data() { AddStates(States); }
   void EveryStateIsWholeNamedAndInReadingOrder() {
     QFETCH(int, state);
     ShowState(States[state]);
@@ -172,10 +168,7 @@ class AudioScreenViewTest : public QObject, private ScreenStage {
   }
 
  private:
-  static const AudioState& StateOf(const char* name) {
-    return *std::find_if(std::begin(States), std::end(States),
-                         [name](const auto& each) { return qstrcmp(each.name, name) == 0; });
-  }
+  static const AudioState& StateOf(const char* name) { return Named(States, name); }
   void ShowState(const AudioState& state) {
     FillModule(state);
     Show(AudioScreen, OpenAudioScreen);

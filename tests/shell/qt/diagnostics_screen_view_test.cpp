@@ -359,10 +359,7 @@ class DiagnosticsScreenViewTest : public QObject, private ScreenStage {
   void TheWindowFitsOnASmallDesktop() {
     QFETCH(int, state);
     ShowState(States[state]);
-    const QSize size = Window()->sizeHint();
-    QVERIFY(size.width() <= SmallDesktop.width() && size.height() <= SmallDesktop.height());
-    const QSize least = Window()->minimumSizeHint();
-    QVERIFY(Window()->width() >= least.width() && Window()->height() >= least.height());
+    ExpectThatItFitsOnASmallDesktop();
   }
 
   void EveryStateIsWholeNamedAndInReadingOrder_data() {
@@ -378,10 +375,7 @@ class DiagnosticsScreenViewTest : public QObject, private ScreenStage {
   }
 
  private:
-  static const TestState& StateOf(const char* name) {
-    return *std::find_if(std::begin(States), std::end(States),
-                         [name](const TestState& each) { return qstrcmp(each.name, name) == 0; });
-  }
+  static const TestState& StateOf(const char* name) { return Named(States, name); }
   static void AddStatesIf(bool (*wanted)(const TestState&)) {
     QTest::addColumn<int>("state");
     for (int state = 0; const TestState& each : States) {

@@ -322,17 +322,14 @@ class DisplayScreensViewTest : public QObject, private ScreenStage {
     QCOMPARE(Find<QLineEdit>("name")->text(), QStringLiteral("Living      "));
   }
 
-  void TheWindowsFitOnASmallDesktop_data() { AddStates(); }
+  void TheWindowsFitOnASmallDesktop_data() { AddStates(States); }
   void TheWindowsFitOnASmallDesktop() {
     QFETCH(int, state);
     ShowState(States[state]);
-    const QSize size = Window()->sizeHint();
-    QVERIFY(size.width() <= SmallDesktop.width() && size.height() <= SmallDesktop.height());
-    const QSize least = Window()->minimumSizeHint();
-    QVERIFY(Window()->width() >= least.width() && Window()->height() >= least.height());
+    ExpectThatItFitsOnASmallDesktop();
   }
 
-  void EveryStateIsWholeNamedAndInReadingOrder_data() { AddStates(); }
+  void EveryStateIsWholeNamedAndInReadingOrder_data() { AddStates(States); }
   void EveryStateIsWholeNamedAndInReadingOrder() {
     QFETCH(int, state);
     ShowState(States[state]);
@@ -343,14 +340,7 @@ class DisplayScreensViewTest : public QObject, private ScreenStage {
   }
 
  private:
-  static const DisplayState& StateOf(const char* name) {
-    return *std::find_if(std::begin(States), std::end(States),
-                         [name](const auto& each) { return qstrcmp(each.name, name) == 0; });
-  }
-  static void AddStates() {
-    QTest::addColumn<int>("state");
-    for (int state = 0; const DisplayState& each : States) QTest::newRow(each.name) << state++;
-  }
+  static const DisplayState& StateOf(const char* name) { return Named(States, name); }
 
   void ShowState(const DisplayState& state) {
     const bool isMenu = state.screen == &DisplayMenuScreen;

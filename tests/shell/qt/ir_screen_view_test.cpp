@@ -211,14 +211,10 @@ class IrScreenViewTest : public QObject, private ScreenStage {
 
   void TheWindowFitsOnASmallDesktop() {
     ShowState(StateOf("audio"));
-    const QSize size = Window()->sizeHint();
-    QVERIFY(size.width() <= SmallDesktop.width() && size.height() <= SmallDesktop.height());
+    ExpectThatItFitsOnASmallDesktop();
   }
 
-  void EveryStateIsWholeNamedAndInReadingOrder_data() {
-    QTest::addColumn<int>("state");
-    for (int state = 0; const IrState& each : States) QTest::newRow(each.name) << state++;
-  }
+  void EveryStateIsWholeNamedAndInReadingOrder_data() { AddStates(States); }
   void EveryStateIsWholeNamedAndInReadingOrder() {
     QFETCH(int, state);
     ShowState(States[state]);
@@ -228,10 +224,7 @@ class IrScreenViewTest : public QObject, private ScreenStage {
   }
 
  private:
-  static const IrState& StateOf(const char* name) {
-    return *std::find_if(std::begin(States), std::end(States),
-                         [name](const auto& each) { return qstrcmp(each.name, name) == 0; });
-  }
+  static const IrState& StateOf(const char* name) { return Named(States, name); }
   void ShowState(const IrState& state) {
     Show(IrScreen, OpenIrScreen);
     RunEvent([&state] { IrScreen.remote.Pick(state.key); });

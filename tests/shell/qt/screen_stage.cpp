@@ -109,6 +109,13 @@ QString ScreenStage::FieldInFocus() const {
   return widget == nullptr ? QString() : widget->objectName();
 }
 
+void ScreenStage::ExpectThatItFitsOnASmallDesktop() {
+  const QSize size = Window()->sizeHint();
+  QVERIFY(size.width() <= SmallDesktop.width() && size.height() <= SmallDesktop.height());
+  const QSize least = Window()->minimumSizeHint();
+  QVERIFY(Window()->width() >= least.width() && Window()->height() >= least.height());
+}
+
 void ScreenStage::ExpectNoFieldCutOffOrCovered() {
   const QList<QWidget*> fields = VisibleFields();
   for (const QWidget* one : fields) {

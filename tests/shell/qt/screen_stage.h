@@ -12,6 +12,8 @@
 #include <QRadioButton>
 #include <QTableView>
 #include <QTest>
+#include <algorithm>
+#include <iterator>
 #include <memory>
 
 #include "session/language.h"
@@ -55,7 +57,21 @@ class ScreenStage {
   static void Click(QTableView* grid, int row, int column);
   static void DoubleClick(QTableView* grid, int row, int column);
 
+  // The states of a window that a test goes through: an array of structs with a name each
+  template <typename States>
+  static const auto& Named(const States& states, const char* name) {
+    return *std::find_if(std::begin(states), std::end(states),
+                         [name](const auto& each) { return qstrcmp(each.name, name) == 0; });
+  }
+  /// Makes a test run in each of them, with its index.
+  template <typename States>
+  static void AddStates(const States& states) {
+    QTest::addColumn<int>("state");
+    for (int state = 0; const auto& each : states) QTest::newRow(each.name) << state++;
+  }
+
   // What holds in every state of a window
+  void ExpectThatItFitsOnASmallDesktop();
   void ExpectNoFieldCutOffOrCovered();
   void ExpectEveryFieldHasANameForAScreenReader();
   void ExpectTabulatorGoesInReadingOrder();

@@ -215,14 +215,10 @@ class SimulationScreenViewTest : public QObject, private ScreenStage {
 
   void TheWindowFitsOnASmallDesktop() {
     ShowState(StateOf("switches"));
-    const QSize size = Window()->sizeHint();
-    QVERIFY(size.width() <= SmallDesktop.width() && size.height() <= SmallDesktop.height());
+    ExpectThatItFitsOnASmallDesktop();
   }
 
-  void EveryStateIsWholeNamedAndInReadingOrder_data() {
-    QTest::addColumn<int>("state");
-    for (int state = 0; const SimulationState& each : States) QTest::newRow(each.name) << state++;
-  }
+  void EveryStateIsWholeNamedAndInReadingOrder_data() { AddStates(States); }
   void EveryStateIsWholeNamedAndInReadingOrder() {
     QFETCH(int, state);
     ShowState(States[state]);
@@ -232,10 +228,7 @@ class SimulationScreenViewTest : public QObject, private ScreenStage {
   }
 
  private:
-  static const SimulationState& StateOf(const char* name) {
-    return *std::find_if(std::begin(States), std::end(States),
-                         [name](const auto& each) { return qstrcmp(each.name, name) == 0; });
-  }
+  static const SimulationState& StateOf(const char* name) { return Named(States, name); }
   void ShowState(const SimulationState& state) {
     FillModule(state.conditions);
     Show(SimulationScreen, OpenSimulationScreen);

@@ -368,17 +368,14 @@ class TemperatureScreenViewTest : public QObject, private ScreenStage {
     }
   }
 
-  void TheWindowFitsOnASmallDesktop_data() { AddStates(); }
+  void TheWindowFitsOnASmallDesktop_data() { AddStates(States); }
   void TheWindowFitsOnASmallDesktop() {
     QFETCH(int, state);
     ShowState(States[state]);
-    const QSize size = Window()->sizeHint();
-    QVERIFY(size.width() <= SmallDesktop.width() && size.height() <= SmallDesktop.height());
-    const QSize least = Window()->minimumSizeHint();
-    QVERIFY(Window()->width() >= least.width() && Window()->height() >= least.height());
+    ExpectThatItFitsOnASmallDesktop();
   }
 
-  void EveryStateIsWholeNamedAndInReadingOrder_data() { AddStates(); }
+  void EveryStateIsWholeNamedAndInReadingOrder_data() { AddStates(States); }
   void EveryStateIsWholeNamedAndInReadingOrder() {
     QFETCH(int, state);
     ShowState(States[state]);
@@ -389,16 +386,7 @@ class TemperatureScreenViewTest : public QObject, private ScreenStage {
   }
 
  private:
-  static const TemperatureState& StateOf(const char* name) {
-    return *std::find_if(std::begin(States), std::end(States),
-                         [name](const auto& each) { return qstrcmp(each.name, name) == 0; });
-  }
-  static void AddStates() {
-    QTest::addColumn<int>("state");
-    for (int state = 0; const TemperatureState& each : States) {
-      QTest::newRow(each.name) << state++;
-    }
-  }
+  static const TemperatureState& StateOf(const char* name) { return Named(States, name); }
 
   void ShowState(const TemperatureState& state) {
     TempImage1Loaded = TempImage2Loaded = state.reads ? 0 : 1;
