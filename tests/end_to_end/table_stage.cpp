@@ -1,6 +1,7 @@
 #include "end_to_end/table_stage.h"
 
 #include <algorithm>
+#include <sstream>
 
 #include "end_to_end/deadline.h"
 #include "end_to_end/image_lines.h"
@@ -22,18 +23,19 @@ std::vector<int> CellsIn(const std::string& content) {
   return cells;
 }
 
-// In words, for there are thousands of cells.
-std::vector<std::string> Differences(const std::vector<int>& found,
-                                     const std::vector<int>& wanted) {
+// In words, for there are thousands of cells and of frames.
+template <typename Part>
+std::vector<std::string> Differences(const std::vector<Part>& found,
+                                     const std::vector<Part>& wanted) {
   std::vector<std::string> differences;
-  if (found.size() != wanted.size()) {
-    differences.push_back(std::to_string(found.size()) + " cells in place of " +
-                          std::to_string(wanted.size()));
-  }
-  for (std::size_t cell = 0; cell < std::min(found.size(), wanted.size()); ++cell) {
-    if (found[cell] == wanted[cell]) continue;
-    differences.push_back("cell " + std::to_string(cell) + " holds " + std::to_string(found[cell]) +
-                          " in place of " + std::to_string(wanted[cell]));
+  const auto add = [&](const std::string& what, const auto& one, const auto& other) {
+    std::ostringstream words;
+    words << what << ": " << one << " in place of " << other;
+    differences.push_back(words.str());
+  };
+  if (found.size() != wanted.size()) add("count", found.size(), wanted.size());
+  for (std::size_t i = 0; i < std::min(found.size(), wanted.size()); ++i) {
+    if (found[i] != wanted[i]) add(std::to_string(i), found[i], wanted[i]);
   }
   return differences;
 }
@@ -50,6 +52,13 @@ std::string FrameOf(int number, int value, int digits) {
     text.insert(0, static_cast<std::size_t>(digits) - text.size(), '0');
   }
   return "T" + std::to_string(1000 + number).substr(1) + text + "\\n\\r";
+}
+
+// At least.
+milliseconds DurationOf(const Writing& writing) {
+  milliseconds duration = static_cast<int>(writing.runs.size()) * writing.pause;
+  for (const CellRun& run : writing.runs) duration += (run.last - run.first) * writing.tick;
+  return duration;
 }
 
 milliseconds Between(const LogUnit& one, const LogUnit& next) {
@@ -173,14 +182,15 @@ std::vector<Conversation> TableStage::Conversations() const {
 void TableStage::SendAndExpectWritten(const std::vector<Writing>& writings) {
   const std::size_t before = Conversations().size();
   ClickOn("push button", captions().send);
+  milliseconds limit = patience;
+  for (const Writing& writing : writings) limit += DurationOf(writing);
   std::vector<int> saved;
-  // A write of both displays takes more than a minute.
   WaitFor(
       [&] {
         saved = CellsIn(ContentOf(savedImage()));
         return saved == cells_ && Conversations().size() == before + writings.size();
       },
-      4 * patience);
+      limit);
   EXPECT_EQ(Differences(saved, cells_), nothing);
   AwaitText("Ready");
   Await("push button", captions().send);
@@ -202,7 +212,7 @@ void TableStage::ExpectWritten(const Conversation& conversation, const Writing& 
   }
   std::vector<std::string> sent;
   for (const LogUnit& frame : conversation.frames) sent.push_back(frame.text);
-  ASSERT_EQ(sent, wanted) << writing.command;
+  ASSERT_EQ(Differences(sent, wanted), nothing) << writing.command;
   // The log may see a pause shorter, when the module was late to take the frame before it on a busy
   // machine, but never nearly so short as a tick. Over all frames lateness counts for nothing.
   for (std::size_t run = 1; run < starts.size(); ++run) {
@@ -230,6 +240,15 @@ void TableStage::ExpectFrames(const std::string& command,
 
 void TableStage::ExpectFile(const std::filesystem::path& file) {
   EXPECT_EQ(Differences(CellsIn(ContentOf(file)), cells_), nothing) << file;
+}
+
+void TableStage::ExpectNotSaved() {
+  ClickOnEntry(captions().fileMenu, captions().saveAsEntry);
+  AwaitText(captions().incomplete);
+  ClickOn("push button", "OK");
+  AwaitGone("label", captions().incomplete);
+  AwaitWindow(programName);
+  EXPECT_FALSE(desktop().Find("frame", captions().saveTitle));
 }
 
 }  // namespace end_to_end

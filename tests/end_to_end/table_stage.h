@@ -66,6 +66,8 @@ class TableStage : public FileStage {
   void ExpectFrames(const std::string& command, const std::map<std::size_t, std::string>& frames);
 
   void ExpectFile(const std::filesystem::path& file);
+  // Asks for a file while a table was not read yet: there is none.
+  void ExpectNotSaved();
 
  private:
   void ExpectWritten(const Conversation& conversation, const Writing& writing);

@@ -185,6 +185,7 @@ void SessionTest::PutSettings(int language) {
 
 void SessionTest::Start(int language) {
   PutSettings(language);
+  LinkHandlers = {};
   StartSession(LoadMainWindow, [](const std::string&) {});
 }
 
