@@ -174,7 +174,7 @@ void OfferItems() {
 void ShowOutputs(bool shown) {
   DisplayMenuScreen.outputsGroup.visible = shown;
   DisplayMenuScreen.enter = shown ? &DisplayMenuScreen.ok : nullptr;
-  DisplayMenuScreen.escape = shown ? &DisplayMenuScreen.outputsLeave : nullptr;
+  DisplayMenuScreen.escape = shown ? &DisplayMenuScreen.outputsLeave : &DisplayMenuScreen.leave;
 }
 
 /// The texts stay: what a line is called does not depend on what it controls.
@@ -444,11 +444,17 @@ void LeaveRead() {
 }
 
 void Leave() {
-  if (!DisplayMenuScreen.leave.enabled) return;
   PackScreen();
   ScreenShown = false;
   *Window.title = titleBefore;
   DisplayMenuScreen.shown = false;
+}
+
+/// By the frame of the window. The button to leave waits for the last cell; a module that says no
+/// more must not keep the user here, so this leaves the transfer, and what has come stays.
+void Close() {
+  if (!DisplayMenuScreen.leave.enabled) LeaveTransfer();
+  Leave();
 }
 
 void ShowCaptions() {
@@ -524,7 +530,7 @@ void LoadDisplayMenuScreen() {
   DisplayMenuScreen.ok.onClick = ConfirmOutputs;
   DisplayMenuScreen.outputsLeave.onClick = [] { ShowOutputs(false); };
   DisplayMenuScreen.leave.onClick = Leave;
-  DisplayMenuScreen.onClose = Leave;
+  DisplayMenuScreen.onClose = Close;
   Listen(LinkEvent::DisplayReadStarted, BeginRead);
   Listen(LinkEvent::DisplayRead, EndRead);
   Listen(LinkEvent::TransferLeft, LeaveRead);

@@ -191,9 +191,15 @@ void LeaveRead() {
 }
 
 void Leave() {
-  if (!TemperatureScreen.leave.enabled) return;
   *Window.title = titleBefore;
   TemperatureScreen.shown = false;
+}
+
+/// By the frame of the window. The button to leave waits for the last cell; a module that says no
+/// more must not keep the user here, so this leaves the transfer, and what has come stays.
+void Close() {
+  if (!TemperatureScreen.leave.enabled) LeaveTransfer();
+  Leave();
 }
 
 }  // namespace
@@ -205,7 +211,8 @@ void LoadTemperatureScreen() {
   LoadRoomProgram();
   LoadLiveTemperatures();
   TemperatureScreen.leave.onClick = Leave;
-  TemperatureScreen.onClose = Leave;
+  TemperatureScreen.onClose = Close;
+  TemperatureScreen.escape = &TemperatureScreen.leave;
   Listen(LinkEvent::TemperatureReadStarted, BeginRead);
   Listen(LinkEvent::TemperatureRead, EndRead);
   Listen(LinkEvent::TransferLeft, LeaveRead);

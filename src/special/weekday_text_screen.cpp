@@ -93,11 +93,23 @@ void LeaveRead() {
   EndRead();
 }
 
-void Leave() {
-  if (!WeekdayTextScreen.leave.enabled) return;
-  PackNames();
+void Hide() {
   *Window.title = titleBefore;
   WeekdayTextScreen.shown = false;
+}
+
+void Leave() {
+  PackNames();
+  Hide();
+}
+
+/// By the frame of the window. The button to leave waits for the last cell; a module that says no
+/// more must not keep the user here, so this leaves the transfer, and what has come stays: the
+/// fields do not show all of it, and are not stored.
+void Close() {
+  if (WeekdayTextScreen.leave.enabled) return Leave();
+  LeaveTransfer();
+  Hide();
 }
 
 void MarkChange() {
@@ -115,7 +127,8 @@ void LoadWeekdayTextScreen() {
   }
   Show(WeekdayTextScreen.leave.caption, TextId::Leave);
   WeekdayTextScreen.leave.onClick = Leave;
-  WeekdayTextScreen.onClose = Leave;
+  WeekdayTextScreen.onClose = Close;
+  WeekdayTextScreen.escape = &WeekdayTextScreen.leave;
   Listen(LinkEvent::WeekdayReadStarted, BeginRead);
   Listen(LinkEvent::WeekdayRead, EndRead);
   Listen(LinkEvent::TransferLeft, LeaveRead);

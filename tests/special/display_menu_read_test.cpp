@@ -156,13 +156,27 @@ TEST_F(DisplayReadTest, NothingCanBeDoneUntilTheLastCellHasCome) {
   PickScreen(0);
   PressOutputs(0);
   Leave();
-  DisplayMenuScreen.Close();
   ExpectOnlyChanged(before, {});
   EXPECT_TRUE(DisplayMenuScreen.shown);
   ExpectUsable(false);
   ExpectNothingShown();
   ASSERT_TRUE(RunUntilUsable());
   EXPECT_EQ(DisplayMenuScreen.bar.Value(), 1020);
+}
+
+TEST_F(DisplayReadTest, ClosingTheWindowLeavesAModuleThatSaysNoMore) {
+  Connect();
+  Press(1);
+  ASSERT_TRUE(RunUntilBar(500));
+  line.module = nullptr;
+  clock.Advance(60'000);
+  ExpectUsable(false);
+  const Snapshot before = TakeSnapshot();
+  DisplayMenuScreen.Close();
+  ExpectOnlyChanged(before, {});
+  EXPECT_FALSE(DisplayMenuScreen.shown || TransferUnderWay);
+  EXPECT_TRUE(MainWindow.connect.enabled && MainWindow.bestand.enabled);
+  EXPECT_EQ(MainWindow.status.caption, "Edit mode");
 }
 
 TEST_F(DisplayReadTest, TheLastCellGivesEverythingBackAndChoosesNoScreen) {

@@ -90,7 +90,7 @@ TEST_P(TemperatureReadTest, TheScreenShowsItselfBehindTheIdentityAndWorksFromThe
   AwaitScreen();
   EXPECT_TRUE(Usable().empty());
   EXPECT_FALSE(TemperatureScreen.leave.enabled);
-  TemperatureScreen.Close();
+  TemperatureScreen.leave.Click();
   EXPECT_TRUE(TemperatureScreen.shown);
   EXPECT_EQ(TemperatureScreen.status.caption, "Inladen van de gegevens...");
   EXPECT_EQ(MainWindow.status.caption, "Inladen van de gegevens...");
@@ -238,6 +238,22 @@ TEST_P(TemperatureReadTest, APortThatFailsLeavesTheScreenUsableWithWhatHasCome) 
   EXPECT_FALSE(TemperatureScreen.shown);
   EXPECT_EQ(Window.bar, &MainWindow.transferBar);
   EXPECT_TRUE(MainWindow.connect.enabled && MainWindow.bestand.enabled);
+}
+
+TEST_P(TemperatureReadTest, ClosingTheWindowLeavesAModuleThatSaysNoMore) {
+  Read(3);
+  Open(GetParam().look);
+  AwaitScreen();
+  line.module = nullptr;
+  clock.Advance(60'000);
+  EXPECT_FALSE(TemperatureScreen.leave.enabled);
+  const Snapshot before = TakeSnapshot();
+  TemperatureScreen.Close();
+  ExpectOnlyChanged(before, {});
+  EXPECT_FALSE(TemperatureScreen.shown || TransferUnderWay);
+  EXPECT_FALSE(WindowIsLocked());
+  EXPECT_EQ(MainWindow.status.caption, "Edit mode");
+  EXPECT_EQ(*GetParam().loaded, Cell(1));
 }
 
 TEST_P(TemperatureReadTest, APortThatCannotBeOpenedShowsNoScreen) {

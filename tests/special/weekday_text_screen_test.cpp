@@ -177,7 +177,6 @@ TEST_F(WeekdayReadTest, NothingCanBeUsedUntilTheLastCell) {
   const Snapshot before = TakeSnapshot();
   Day(0).Type("xyz");
   Leave();
-  WeekdayTextScreen.Close();
   EXPECT_TRUE(WeekdayTextScreen.shown);
   EXPECT_EQ(Day(0).Text(), "");
   ExpectOnlyChanged(before, {});
@@ -195,6 +194,23 @@ TEST_F(WeekdayReadTest, NothingCanBeUsedUntilTheLastCell) {
   EXPECT_TRUE(MainWindow.bestand.enabled && MainWindow.moduleList.enabled);
   EXPECT_EQ(module.errors(), 0);
   EXPECT_EQ(module.completedReads(), 2);
+}
+
+TEST_F(WeekdayReadTest, ClosingTheWindowLeavesAModuleThatSaysNoMoreAndStoresNothing) {
+  Connect();
+  Press();
+  ASSERT_TRUE(RunUntilShown());
+  ASSERT_TRUE(clock.RunUntil([] { return WeekdayTextScreen.bar.Value() == 10; }, 10'000));
+  line.module = nullptr;
+  clock.Advance(60'000);
+  const std::string title = MainWindow.title;
+  const Snapshot before = TakeSnapshot();
+  WeekdayTextScreen.Close();
+  ExpectOnlyChanged(before, {});
+  EXPECT_FALSE(WeekdayTextScreen.shown || TransferUnderWay);
+  EXPECT_NE(MainWindow.title, title);
+  EXPECT_TRUE(MainWindow.connect.enabled && MainWindow.bestand.enabled);
+  EXPECT_EQ(MainWindow.status.caption, "Edit mode");
 }
 
 TEST_F(WeekdayReadTest, LeavingAtOnceKeepsWhatWasReadAndTheNextOpeningReadsNothing) {
