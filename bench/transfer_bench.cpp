@@ -86,12 +86,15 @@ void FinishTransfer() {
   }
 }
 
-/// Notes when a module was accepted, without changing what happens then.
+/// Notes when a module was accepted, without changing what happens then. A screen that opens behind
+/// a read shows the model once more.
 void WatchIdentities() {
   const auto showModel = Window.showModel;
   Window.showModel = [showModel](const ModuleKind& kind) {
-    times = {};
-    times.identity = NowMs();
+    if (TransferUnderWay) {
+      times = {};
+      times.identity = NowMs();
+    }
     showModel(kind);
   };
 }
