@@ -5,6 +5,7 @@
 
 #include "image/kind_set.h"
 #include "image/module_directory.h"
+#include "platform/list_items.h"
 #include "session/language.h"
 #include "text/windows1252.h"
 
@@ -89,12 +90,6 @@ std::optional<int> ListedKindOf(char letter) {
 
 std::string Say(TextId id) {
   return std::string(Text(id));
-}
-
-std::vector<std::string> Numbers(int first, int last) {
-  std::vector<std::string> items;
-  for (int number = first; number <= last; ++number) items.push_back(std::to_string(number));
-  return items;
 }
 
 std::vector<std::string> CodeNumbers() {
@@ -311,7 +306,7 @@ void ActionPicker::ShowKind(int kind) {
 void ActionPicker::OfferContexts() {
   type.Show(Text(TextId::ContextType));
   type.enabled = false;
-  output.Offer(Text(TextId::ContextCaption), Numbers(1, Contexts));
+  output.Offer(Text(TextId::ContextCaption), NumberItems(1, Contexts));
 }
 
 void ActionPicker::OfferCodes() {
@@ -341,7 +336,7 @@ void ActionPicker::OfferType(int kind) {
   const Target* target = FindTarget(kind);
   if (target == nullptr) return;
   output.Offer(Text(target->detectors ? variant_.detector : variant_.output),
-               Numbers(1, target->outputs));
+               NumberItems(1, target->outputs));
   allOutputs.visible = variant_.offersAllOutputs;
   allOutputs.caption = Text(target->detectors ? TextId::AllDetectors : TextId::AllOutputs);
   const bool waits = target->switching == Switching::FirstFourOfEight;
@@ -359,14 +354,14 @@ void ActionPicker::OfferTemperatures() {
   for (std::size_t i = 0; i < temperatures.size(); ++i) {
     TemperatureChoice& choice = temperatures[i];
     choice.option.visible = true;
-    if (needs[i].temperature) OfferList(choice.temperature, Numbers(0, HighestTemperature));
-    if (needs[i].room) OfferList(choice.room, Numbers(1, Rooms));
+    if (needs[i].temperature) OfferList(choice.temperature, NumberItems(0, HighestTemperature));
+    if (needs[i].room) OfferList(choice.room, NumberItems(1, Rooms));
   }
 }
 
 void ActionPicker::OfferZones() {
   mainZone.visible = secondaryZone.visible = true;
-  output.Offer(Text(TextId::ZoneCaption), Numbers(1, Zones));
+  output.Offer(Text(TextId::ZoneCaption), NumberItems(1, Zones));
 }
 
 void ActionPicker::OfferZoneActions() {
@@ -408,7 +403,7 @@ void ActionPicker::PickAction() {
   if (place < (mainZone.Chosen() ? FirstMainValue : FirstSecondaryValue)) {
     value.Hide();
   } else if (!value.list.visible || place != valueFor_) {
-    value.Offer(Text(TextId::ValueCaption), Numbers(1, Zones));
+    value.Offer(Text(TextId::ValueCaption), NumberItems(1, Zones));
   }
   valueFor_ = place;
 }

@@ -5,6 +5,7 @@
 
 #include "link/send.h"
 #include "link/transfer.h"
+#include "platform/list_items.h"
 #include "platform/machine.h"
 #include "platform/runtime_error.h"
 #include "session/language.h"
@@ -313,16 +314,12 @@ void PickCell(const CellField& field) {
 void FillLists() {
   for (const DataGroup group : DataGroups) {
     ListField& address = MainWindow.Group(group).address;
-    address.items.clear();
-    for (char letter = 'A'; letter <= 'R'; ++letter) address.items.emplace_back(1, letter);
+    address.items = LetterItems('A', 'R');
     address.onPick = [&address] { PickAddress(address); };
     address.onTyped = [&address] { ShowAddress(address); };
   }
   for (const CellField& field : CellFields()) {
-    field.list->items.clear();
-    for (int number = field.lowest; number <= field.highest; ++number) {
-      field.list->items.push_back(std::to_string(number));
-    }
+    field.list->items = NumberItems(field.lowest, field.highest);
     field.list->onPick = [&field] { PickCell(field); };
     field.list->onTyped = [&field] { field.list->Show(CellAt(field.cell).Text()); };
   }

@@ -6,6 +6,7 @@
 
 #include "image/tables.h"
 #include "link/transfer.h"
+#include "platform/list_items.h"
 #include "session/language.h"
 #include "session/module_title.h"
 
@@ -76,12 +77,6 @@ bool IsSurround() {
 /// The first zone plays in surround, and the two behind it are its other channels.
 bool FollowsFirstZone() {
   return IsSurround() && Zone() >= 1 && Zone() <= SurroundZones;
-}
-
-std::vector<std::string> Numbers(int last) {
-  std::vector<std::string> items;
-  for (int number = 1; number <= last; ++number) items.push_back(std::to_string(number));
-  return items;
 }
 
 bool IsUnset(const Cell& cell) {
@@ -159,14 +154,14 @@ void ClearZone() {
 
 void PickZones() {
   AudioImage[ZonesCell] = AudioScreen.zones.list.Index();
-  AudioScreen.zone.list.items = Numbers(AudioScreen.zones.list.Index() + 1);
+  AudioScreen.zone.list.items = NumberItems(1, AudioScreen.zones.list.Index() + 1);
   ClearZone();
   SignalChange();
 }
 
 void PickSources() {
   AudioImage[SourcesCell] = AudioScreen.sources.list.Index();
-  AudioScreen.source.list.items = Numbers(AudioScreen.sources.list.Index() + 1);
+  AudioScreen.source.list.items = NumberItems(1, AudioScreen.sources.list.Index() + 1);
   AudioScreen.source.list.Clear();
   SignalChange();
 }
@@ -242,11 +237,11 @@ void ShowCaptions() {
 
 void LoadAudioScreen() {
   ShowCaptions();
-  AudioScreen.zones.list.items = Numbers(MostZones);
-  AudioScreen.sources.list.items = Numbers(MostSources);
+  AudioScreen.zones.list.items = NumberItems(1, MostZones);
+  AudioScreen.sources.list.items = NumberItems(1, MostSources);
   for (AudioList* field :
        {&AudioScreen.mainVolume, &AudioScreen.gain, &AudioScreen.secondaryVolume}) {
-    field->list.items = Numbers(Steps);
+    field->list.items = NumberItems(1, Steps);
   }
   for (AudioList* field : {&AudioScreen.zones, &AudioScreen.sources}) {
     field->list.onTyped = ShowCounts;
@@ -267,8 +262,8 @@ void OpenAudioScreen() {
   if (const ModuleKind* kind = ActiveKind()) Window.showModel(*kind);
   AudioScreen.title = ModuleTitle();
   ShowCounts();
-  AudioScreen.zone.list.items = Numbers(CountIn(AudioImage[ZonesCell], MostZones));
-  AudioScreen.source.list.items = Numbers(CountIn(AudioImage[SourcesCell], MostSources));
+  AudioScreen.zone.list.items = NumberItems(1, CountIn(AudioImage[ZonesCell], MostZones));
+  AudioScreen.source.list.items = NumberItems(1, CountIn(AudioImage[SourcesCell], MostSources));
   ClearZone();
   AudioScreen.shown = true;
 }

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "link/transfer.h"
+#include "platform/list_items.h"
 #include "session/language.h"
 
 namespace bkconf {
@@ -14,12 +15,6 @@ constexpr int NoTo = 25;
 constexpr int LastHour = 24;
 constexpr int HighestLevel = 50;
 constexpr int JoinedByBoth = 1;
-
-std::vector<std::string> Numbers(int first, int last) {
-  std::vector<std::string> items;
-  for (int number = first; number <= last; ++number) items.push_back(std::to_string(number));
-  return items;
-}
 
 bool IsNoPeriod(const ConditionCells& cells, int period) {
   return cells.From(period).Number() == NoFrom && cells.To(period).Number() == NoTo;
@@ -92,14 +87,14 @@ void ConditionFields::Load(TextId levelCaption) {
        })) {
     Show(row.text, row.id);
   }
-  level.items = Numbers(1, HighestLevel);
+  level.items = NumberItems(1, HighestLevel);
   for (int place = 0; place < static_cast<int>(periods.size()); ++place) {
     PeriodFields& period = periods[static_cast<std::size_t>(place)];
     Show(period.none.caption, TextId::NoneChosen);
     Show(period.fromLabel.caption, TextId::FromHour);
     Show(period.toLabel.caption, TextId::ToHour);
-    period.from.items = Numbers(0, LastHour - 1);
-    period.to.items = Numbers(1, LastHour);
+    period.from.items = NumberItems(0, LastHour - 1);
+    period.to.items = NumberItems(1, LastHour);
     period.none.onChange = [this, place] { ChangeNoPeriod(place); };
     period.from.onPick = [this, place] { PickFrom(place); };
     period.to.onPick = [this, place] { PickTo(place); };

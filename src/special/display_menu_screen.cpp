@@ -8,6 +8,7 @@
 #include "image/tables.h"
 #include "link/link_events.h"
 #include "link/transfer.h"
+#include "platform/list_items.h"
 #include "platform/machine.h"
 #include "session/language.h"
 #include "session/module_title.h"
@@ -142,18 +143,6 @@ bool IsAutomation() {
 
 // --- Filling ------------------------------------------------------------------------------------
 
-std::vector<std::string> Letters(char first, char last) {
-  std::vector<std::string> items;
-  for (char letter = first; letter <= last; ++letter) items.emplace_back(1, letter);
-  return items;
-}
-
-std::vector<std::string> Numbers(int last) {
-  std::vector<std::string> items;
-  for (int number = 1; number <= last; ++number) items.push_back(std::to_string(number));
-  return items;
-}
-
 void EnableOutputButtons(bool enabled) {
   for (const auto& line : DisplayMenuScreen.lines) line->outputs.enabled = enabled;
 }
@@ -165,8 +154,8 @@ void OfferItems() {
     line->module.items.clear();
     line->output.items.clear();
     if (category == nullptr) continue;
-    line->module.items = Letters(category->firstLetter, category->lastLetter);
-    line->output.items = Numbers(category->highestOutput);
+    line->module.items = LetterItems(category->firstLetter, category->lastLetter);
+    line->output.items = NumberItems(1, category->highestOutput);
   }
 }
 
@@ -498,8 +487,8 @@ void LoadLine(int line) {
 
 void LoadPair(AutomationFields& row) {
   const MenuCategory& category = *CategoryOfCode(Cell(AutomationCode));
-  row.module.items = Letters(category.firstLetter, category.lastLetter);
-  row.output.items = Numbers(category.highestOutput);
+  row.module.items = LetterItems(category.firstLetter, category.lastLetter);
+  row.output.items = NumberItems(1, category.highestOutput);
   row.module.onPick = row.output.onPick = MarkChange;
   row.module.onTyped = [&row] { TypeLetter(row.module); };
   row.output.onTyped = [&row] { TypeNumber(row.output); };

@@ -4,6 +4,7 @@
 #include "actions/action_code.h"
 #include "image/tables.h"
 #include "link/transfer.h"
+#include "platform/list_items.h"
 #include "session/language.h"
 #include "special/rooms.h"
 #include "special/temperature_screen.h"
@@ -190,8 +191,7 @@ void LoadRoomIds() {
   LoadRoomList(Ids().valve, BlankValve);
   LoadId(Ids().sensor, TempRoomIds);
   LoadId(Ids().led, TempTail);
-  Ids().letter.items.clear();
-  for (char letter = 'A'; letter <= 'R'; ++letter) Ids().letter.items.emplace_back(1, letter);
+  Ids().letter.items = LetterItems('A', 'R');
   Ids().output.items.clear();
   for (int output = 1; output <= Outputs; ++output) {
     Ids().output.items.push_back(TwoDigits(100 + output));

@@ -7,6 +7,7 @@
 #include "actions/action_picker.h"
 #include "image/tables.h"
 #include "link/transfer.h"
+#include "platform/list_items.h"
 #include "session/language.h"
 #include "session/module_title.h"
 #include "text/windows1252.h"
@@ -181,12 +182,6 @@ void OfferNumbers(TextId type, TextId caption, std::vector<std::string> items) {
   SimulationScreen.numberLabel.visible = SimulationScreen.number.visible = true;
 }
 
-std::vector<std::string> ContextNumbers() {
-  std::vector<std::string> items;
-  for (int number = 1; number <= MostContexts; ++number) items.push_back(std::to_string(number));
-  return items;
-}
-
 std::vector<std::string> CodeNumbers() {
   std::vector<std::string> items;
   for (int code = 1; code <= MostCodes; ++code) items.push_back(TwoDigits(100 + code));
@@ -198,7 +193,7 @@ std::vector<std::string> CodeNumbers() {
 void PickLetter() {
   HideLower();
   if (Letter() == ContextLetter) {
-    OfferNumbers(TextId::ContextType, TextId::ContextCaption, ContextNumbers());
+    OfferNumbers(TextId::ContextType, TextId::ContextCaption, NumberItems(1, MostContexts));
   } else if (Letter() == CorvelaLetter) {
     OfferNumbers(TextId::CorvelaType, TextId::CodeCaption, CodeNumbers());
   } else if (CharacterOf(OwnAddress().Whole()) == SimulationScreen.letter.Text()) {
@@ -285,10 +280,7 @@ void ShowCaptions() {
 }
 
 void FillLists() {
-  SimulationScreen.letter.items.clear();
-  for (char letter = 'A'; letter <= ContextLetter; ++letter) {
-    SimulationScreen.letter.items.emplace_back(1, letter);
-  }
+  SimulationScreen.letter.items = LetterItems('A', ContextLetter);
   SimulationScreen.letter.items.emplace_back(1, CorvelaLetter);
   SimulationScreen.type.items.clear();
   for (const PickerType& each : Types) SimulationScreen.type.items.emplace_back(Text(each.name));
