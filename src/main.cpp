@@ -2,11 +2,13 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QProcess>
+#include <QTimer>
 #include <cstdio>
 #include <memory>
 
 #include "session/settings.h"
 #include "shell/main_window.h"
+#include "shell/module_file.h"
 #include "shell/qt/arguments.h"
 #include "shell/qt/desktop_machine.h"
 #include "shell/qt/event_guard.h"
@@ -30,11 +32,16 @@ bool LayOutDirectory() {
   return false;
 }
 
-/// Loads the screens and shows the main window.
-std::unique_ptr<ScreenWindow> Begin(bool minimised) {
+/// Loads the screens and shows the main window, with the file of the command line in it: that is
+/// opened once the window stands, since it may be refused.
+std::unique_ptr<ScreenWindow> Begin(const Arguments& arguments) {
   std::unique_ptr<ScreenWindow> window = MakeWindows();
-  if (minimised) window->StartMinimised();
+  if (arguments.minimised) window->StartMinimised();
   LoadMainWindow();
+  if (!arguments.file.empty()) {
+    QTimer::singleShot(
+        0, [path = Absolute(arguments.file)] { RunEvent([&path] { OpenModule(path); }); });
+  }
   return window;
 }
 
@@ -46,7 +53,7 @@ int RunProgram(QApplication& application, const Arguments& arguments) {
   const DesktopMachine machine(port);
   std::unique_ptr<ScreenWindow> window;
   RunEvent([&] {
-    StartSession([&] { window = Begin(arguments.minimised); },
+    StartSession([&] { window = Begin(arguments); },
                  [](const std::string& path) {
                    std::fprintf(stderr, "bkconf: waiting for %s\n", path.c_str());
                  });

@@ -105,10 +105,10 @@ void Stage::StartModule(int kind, const std::vector<std::string>& options) {
       << module_->Output();
 }
 
-void Stage::LaunchTool() {
-  tool_ = std::make_unique<Process>(
-      std::vector<std::string>{TOOL_PROGRAM, "--directory", directory().string()},
-      scratch_ / "tool.txt");
+void Stage::LaunchTool(const std::vector<std::string>& words) {
+  std::vector<std::string> command = {TOOL_PROGRAM, "--directory", directory().string()};
+  command.insert(command.end(), words.begin(), words.end());
+  tool_ = std::make_unique<Process>(command, scratch_ / "tool.txt");
 }
 
 void Stage::StartTool() {

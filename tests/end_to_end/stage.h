@@ -43,8 +43,8 @@ class Stage : public ::testing::Test {
   // Each is up when it returns.
   void StartModule(int kind, const std::vector<std::string>& options = {});
   void StartTool();
-  // The tool without a wait for its window.
-  void LaunchTool();
+  // The tool without a wait for its window, with words behind those of every test.
+  void LaunchTool(const std::vector<std::string>& words = {});
   // Waits until the tool has ended well and left a copy of itself, which is the tool from then on.
   void FollowTool();
 

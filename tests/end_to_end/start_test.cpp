@@ -46,5 +46,36 @@ TEST_F(ToolAtStart, DirectoryThatDoesNotExistIsLaidOut) {
   CloseTool();
 }
 
+TEST_F(ToolAtStart, FileOfTheCommandLineIsOpen) {
+  LayOutDirectory();
+  const fs::path file = fs::path(DEMO_DIRECTORY) / "Relais A.BK1";
+  LaunchTool({file.string()});
+  AwaitWindow("TREVAN BK-CONF  -  " + file.string());
+  Await("push button", "Verbinden");
+  CloseTool();
+}
+
+TEST_F(ToolAtStart, FileThatIsNotThereIsToldAndTheToolGoesOn) {
+  LayOutDirectory();
+  LaunchTool({(directory() / "none.BK1").string()});
+  Await("frame", "TREVAN BK-CONF");
+  EXPECT_TRUE(WaitFor([&] {
+    for (const Widget& each : desktop().Widgets()) {
+      if (each.name.find("Het bestand kon niet gelezen worden.") != std::string::npos) return true;
+    }
+    return false;
+  }));
+  desktop().Press({"Return"});
+  Await("push button", "Verbinden");
+  CloseTool();
+}
+
+TEST_F(ToolAtStart, UnknownOptionIsRefused) {
+  LayOutDirectory();
+  LaunchTool({"--fast"});
+  EXPECT_EQ(tool().AwaitEnd(), std::optional<int>(2));
+  EXPECT_NE(tool().Output().find("--fast"), std::string::npos) << tool().Output();
+}
+
 }  // namespace
 }  // namespace end_to_end

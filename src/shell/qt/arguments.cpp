@@ -6,13 +6,10 @@
 #include "shell/qt/field_view.h"
 
 namespace bkconf {
-namespace {
 
-std::string Absolute(std::string_view directory) {
-  return QDir::cleanPath(QFileInfo(ToQt(directory)).absoluteFilePath()).toStdString();
+std::string Absolute(std::string_view path) {
+  return QDir::cleanPath(QFileInfo(ToQt(path)).absoluteFilePath()).toStdString();
 }
-
-}  // namespace
 
 Arguments ParseArguments(const std::vector<std::string>& words) {
   Arguments arguments;
@@ -30,6 +27,8 @@ Arguments ParseArguments(const std::vector<std::string>& words) {
       arguments.directory = word->substr(assigned.size());
     } else if (*word == DirectoryOption) {
       throw ArgumentError(*word + " needs a directory");
+    } else if (arguments.file.empty() && !word->empty() && word->front() != '-') {
+      arguments.file = *word;
     } else {
       throw ArgumentError("unknown argument " + *word);
     }
@@ -38,9 +37,10 @@ Arguments ParseArguments(const std::vector<std::string>& words) {
 }
 
 std::string HelpText() {
-  return "Usage: bkconf [--directory DIR]\n"
+  return "Usage: bkconf [--directory DIR] [FILE]\n"
          "\n"
          "Reads and writes the configuration of home-automation modules on a serial line.\n"
+         "Starts with FILE open, where one is given.\n"
          "\n"
          "  --directory DIR  settings, pictures and manuals; laid out there if DIR does not "
          "exist.\n"
@@ -53,7 +53,9 @@ std::string HelpText() {
          "  --help           this text\n"
          "  --version        the version of the program\n"
          "\n"
-         "A link comN in DIR, N from 1 to 8, is the device of serial port N.\n";
+         "A link comN in DIR, N from 1 to 8, is the device of serial port N.\n"
+         "\n"
+         "Ends with 0, with 1 when DIR could not be laid out, with 2 when an argument is wrong.\n";
 }
 
 std::string ChooseDirectory(const Arguments& arguments,

@@ -16,6 +16,7 @@ inline constexpr std::string_view MinimisedOption = "--minimised";
 
 struct Arguments {
   std::string directory;  ///< empty when not given
+  std::string file;       ///< the configuration file to open, as it was given; empty for none
   bool minimised = false;
   bool help = false;
   bool version = false;
@@ -29,6 +30,9 @@ struct ArgumentError : std::runtime_error {
 Arguments ParseArguments(const std::vector<std::string>& words);
 
 std::string HelpText();
+
+/// A path as given on the command line, seen from the directory in which the program was started.
+std::string Absolute(std::string_view path);
 
 /// The directory of the command line, else of the environment, else the fixed one of the platform.
 /// Absolute, without a separator at its end. `variable` gives the value of an environment variable,

@@ -30,7 +30,22 @@ class ArgumentsTest : public QObject {
   void UnknownWordsAndAMissingDirectoryAreRefused() {
     QVERIFY_EXCEPTION_THROWN(ParseArguments({"--directory"}), ArgumentError);
     QVERIFY_EXCEPTION_THROWN(ParseArguments({"--fast"}), ArgumentError);
-    QVERIFY_EXCEPTION_THROWN(ParseArguments({"/somewhere"}), ArgumentError);
+    QVERIFY_EXCEPTION_THROWN(ParseArguments({"-x"}), ArgumentError);
+    QVERIFY_EXCEPTION_THROWN(ParseArguments({""}), ArgumentError);
+  }
+
+  void OneFileIsOpenedAndASecondOneRefused() {
+    QCOMPARE(ParseArguments({"a b.BK1"}).file, std::string("a b.BK1"));
+    const Arguments both = ParseArguments({"--directory", "/d", "house/Relais A.BK1"});
+    QCOMPARE(both.file, std::string("house/Relais A.BK1"));
+    QCOMPARE(both.directory, std::string("/d"));
+    QVERIFY(ParseArguments({"--directory", "/d"}).file.empty());
+    QVERIFY_EXCEPTION_THROWN(ParseArguments({"a.BK1", "b.BK1"}), ArgumentError);
+  }
+
+  void AFileIsSeenFromWhereTheProgramWasStarted() {
+    QCOMPARE(Absolute("a.BK1"), (QDir::currentPath() + QStringLiteral("/a.BK1")).toStdString());
+    QCOMPARE(Absolute("/x/../a.BK1"), std::string("/a.BK1"));
   }
 
   void AMinimisedStartAndTheQuestionsAreKnown() {
