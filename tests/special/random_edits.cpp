@@ -40,13 +40,24 @@ void RandomEdits::StepIn(Field& field) {
     // Also more than there is room for.
     text->Type(AnyText() + AnyText() + AnyText() + AnyText());
   } else if (auto* entries = dynamic_cast<ListBoxField*>(&field)) {
-    entries->Pick(PlaceIn(static_cast<int>(entries->Items().size())));
+    const int place = PlaceIn(static_cast<int>(entries->Items().size()));
+    if (Below(4) == 0) {
+      entries->Open(place);
+    } else {
+      entries->Pick(place);
+    }
   } else if (auto* box = dynamic_cast<CheckField*>(&field)) {
     box->Set(Below(2) == 0);
   } else if (auto* option = dynamic_cast<OptionField*>(&field)) {
     option->Choose();
   } else if (auto* button = dynamic_cast<ButtonField*>(&field)) {
     button->Click();
+  } else if (auto* entry = dynamic_cast<MenuField*>(&field)) {
+    entry->Click();
+  } else if (auto* calendar = dynamic_cast<CalendarField*>(&field)) {
+    calendar->Pick({.year = static_cast<unsigned>(2000 + Below(100)),
+                    .month = static_cast<unsigned>(1 + Below(12)),
+                    .day = static_cast<unsigned>(1 + Below(28))});
   } else if (auto* picture = dynamic_cast<AreaPictureField*>(&field)) {
     picture->Pick(PlaceIn(static_cast<int>(picture->areas.size())));
   } else if (auto* handle = dynamic_cast<ScrollField*>(&field)) {

@@ -1,0 +1,223 @@
+// Somebody who does anything at all in whatever window is in front: picks, types, clicks, opens,
+// leaves, saves, reads and sends, with modules that are plugged in, pulled out, and out of order.
+// Nothing may crash, no cell may be looked for outside its table, and after every action the tables
+// can be saved and opened to the same cells.
+//
+//   BKCONF_MONKEY_ACTIONS  how many; a few thousand where it is not set
+//   BKCONF_MONKEY_SEED     chooses them; the same seed does the same again
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <functional>
+#include <iostream>
+#include <map>
+#include <optional>
+#include <random>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "diagnostics/diagnostics_screen.h"
+#include "image/configuration_file.h"
+#include "link/transfer.h"
+#include "master/context_screen.h"
+#include "master/light_program_screen.h"
+#include "master/time_program_screen.h"
+#include "output/button_screen.h"
+#include "output/output_screen.h"
+#include "platform/runtime_error.h"
+#include "shell/directory_picker.h"
+#include "shell/directory_screen.h"
+#include "shell/open_dialog.h"
+#include "shell/save_dialog.h"
+#include "special/alarm_screen.h"
+#include "special/audio_screen.h"
+#include "special/display_menu_screen.h"
+#include "special/ir_screen.h"
+#include "special/random_edits.h"
+#include "special/simulation_screen.h"
+#include "special/temperature_screen.h"
+#include "special/weekday_text_screen.h"
+#include "support/session_test.h"
+
+namespace bkconf {
+namespace {
+
+std::uint64_t FromEnvironment(const char* name, std::uint64_t otherwise) {
+  const char* value = std::getenv(name);
+  return value == nullptr ? otherwise : std::strtoull(value, nullptr, 10);
+}
+
+/// The line of the stage, with an end to the wait for the end of a line: a module that polls again
+/// in the middle of one keeps the tool waiting for ever.
+class ImpatientLine : public SerialPort {
+ public:
+  explicit ImpatientLine(FakeLine& line) : line_(line) {}
+  void SetNumber(int number) override { line_.SetNumber(number); }
+  std::string DeviceOf(int number) const override { return line_.DeviceOf(number); }
+  bool Open() override { return line_.Open(); }
+  void Close() override { line_.Close(); }
+  bool IsOpen() const override { return line_.IsOpen(); }
+  int BytesWaiting() override { return line_.BytesWaiting(); }
+  void FlushInput() override { line_.FlushInput(); }
+  void Write(std::string_view characters) override { line_.Write(characters); }
+  std::optional<char> Read() override {
+    constexpr int most = 20'000;
+    if (++reads_ > most) {
+      reads_ = 0;
+      throw SpinLimit();
+    }
+    const std::optional<char> character = line_.Read();
+    if (character == '\r') reads_ = 0;
+    return character;
+  }
+
+ private:
+  FakeLine& line_;
+  int reads_ = 0;
+};
+
+/// Those in front come last: one that is opened from another lies over it.
+const std::vector<Screen*> Screens = {
+    &MainWindow,        &ButtonScreen,       &OutputScreen, &ContextScreen,
+    &TimeProgramScreen, &LightProgramScreen, &AlarmScreen,  &TemperatureScreen,
+    &DisplayMenuScreen, &WeekdayTextScreen,  &AudioScreen,  &SimulationScreen,
+    &IrScreen,          &DiagnosticsScreen,  &OpenDialog,   &SaveDialog,
+    &DirectoryScreen,   &DirectoryPicker,
+};
+
+class MonkeyTest : public SessionTest {
+ protected:
+  MonkeyTest() : random_(static_cast<std::uint32_t>(FromEnvironment("BKCONF_MONKEY_SEED", 1))) {
+    Port = &impatient_;
+    Start();
+    for (Screen* screen : Screens) {
+      hands_.emplace_back(*screen, static_cast<std::uint32_t>(random_()), Spared);
+    }
+  }
+
+  /// What goes wrong ends its event, as in the window. A module can send what has no place; what a
+  /// person does never asks for it.
+  void Do(const std::function<void()>& event, bool modulesTell = false) {
+    try {
+      event();
+    } catch (const RuntimeError& error) {
+      const bool ofTheTool =
+          error.kind == ErrorKind::IndexOutsideTable || error.kind == ErrorKind::BarPastMaximum;
+      EXPECT_TRUE(modulesTell || !ofTheTool) << error.what() << " in " << Front()->name;
+      LeaveFailedTransfer();
+    } catch (const SpinLimit&) {
+      // The window would wait for ever: the installer pulls the plug.
+      line.module = nullptr;
+      line.failed = false;
+      LeaveFailedTransfer();
+    }
+  }
+
+  void Act() {
+    const int choice = Below(100);
+    if (messages.asked && choice < 50) {
+      const auto answer = std::exchange(messages.asked, nullptr);
+      Do([&] { answer(Below(2) == 0); });
+    } else if (choice < 2) {
+      ChangeModule();
+    } else if (choice < 3) {
+      const bool language = Below(2) == 0;
+      Do([&] { (language ? MainWindow.ned : MainWindow.frans).Click(); });
+    } else if (choice < 12) {
+      Wait();
+    } else if (choice < 16) {
+      Do([&] { Front()->Close(); });
+    } else {
+      Edit();
+    }
+  }
+
+  void CheckFile() {
+    const Cell type = ActiveModuleType;
+    if (type == Cell(NoModule)) return;
+    const std::string content = PrintConfiguration(type);
+    if (content == checked_) return;
+    const auto blocks = BlocksOf(type);
+    std::vector<Cell> cells;
+    for (const FileBlock& block : blocks) {
+      for (int cell = 0; cell <= block.last; ++cell) cells.push_back((*block.table)[cell]);
+    }
+    ASSERT_EQ(ReadConfiguration(content), type);
+    auto before = cells.begin();
+    for (const FileBlock& block : blocks) {
+      for (int cell = 0; cell <= block.last; ++cell, ++before) {
+        ASSERT_EQ((*block.table)[cell].Number(), before->Number()) << block.table->name << cell;
+        (*block.table)[cell] = *before;
+      }
+    }
+    checked_ = content;
+  }
+
+  const std::map<std::string, int>& visits() const { return visits_; }
+
+ private:
+  /// What would end the program: the copy of it is another test's.
+  inline static const std::set<std::string> Spared = {"Einde"};
+
+  int Below(int count) { return static_cast<int>(random_() % static_cast<std::uint32_t>(count)); }
+
+  Screen* Front() const {
+    Screen* front = &MainWindow;
+    for (Screen* screen : Screens) {
+      if (screen->shown) front = screen;
+    }
+    return front;
+  }
+
+  void Edit() {
+    const Screen* front = Front();
+    ++visits_[front->name + " of kind " + ActiveModuleType.Text()];
+    for (std::size_t i = 0; i < Screens.size(); ++i) {
+      if (Screens[i] == front) Do([&] { hands_[i].Step(); });
+    }
+  }
+
+  void Wait() {
+    constexpr int longest = 4000;
+    const int wait = Below(4) == 0 ? longest : 50;
+    Do([&] { clock.Advance(Below(wait)); }, true);
+  }
+
+  void ChangeModule() {
+    line.failed = false;
+    if (Below(4) == 0) {
+      line.module = nullptr;
+      return;
+    }
+    const auto faults = virtual_module::Faults();
+    const auto fault = static_cast<std::size_t>(Below(2 * static_cast<int>(faults.size())));
+    const int kind = AllKinds[Below(static_cast<int>(std::size(AllKinds)))];
+    Plug(kind, fault < faults.size() ? std::optional(faults[fault].fault) : std::nullopt,
+         static_cast<std::uint32_t>(random_()));
+  }
+
+  ImpatientLine impatient_{line};
+  std::mt19937 random_;
+  std::vector<RandomEdits> hands_;
+  std::string checked_;
+  std::map<std::string, int> visits_;
+};
+
+TEST_F(MonkeyTest, NothingThatAnybodyDoesBreaksTheTool) {
+  constexpr std::uint64_t few = 5000;
+  const std::uint64_t actions = FromEnvironment("BKCONF_MONKEY_ACTIONS", few);
+  RecordProperty("seed", std::to_string(FromEnvironment("BKCONF_MONKEY_SEED", 1)));
+  for (std::uint64_t action = 0; action < actions; ++action) {
+    Act();
+    CheckFile();
+    ASSERT_FALSE(HasFailure()) << "seed " << FromEnvironment("BKCONF_MONKEY_SEED", 1) << ", action "
+                               << action;
+  }
+  for (const auto& [where, times] : visits()) std::cout << times << " in " << where << '\n';
+}
+
+}  // namespace
+}  // namespace bkconf
