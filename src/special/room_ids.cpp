@@ -204,6 +204,8 @@ void LoadRoomIds() {
   Ids().letter.onTyped = ShowLetter;
   Ids().output.onPick = PickOutput;
   Ids().output.onTyped = ShowOutput;
+  BlankIds();
+  BlankValve();
 }
 
 void FillRoomIds() {

@@ -153,9 +153,16 @@ void PickDay(int day) {
   ShowDay();
 }
 
+/// Without a room there is nothing to move: no cell of a room that was not picked may be touched.
 void ShowGroups(bool shown) {
   Program().periodsGroup.visible = Program().setpointsGroup.visible = shown;
   Program().daysGroup.visible = Program().band.visible = shown;
+  for (const auto& row : Program().periods) {
+    for (ScrollField* scroll : {&row->fromScroll, &row->toScroll, &row->setpointScroll}) {
+      scroll->enabled = shown;
+    }
+  }
+  for (const auto& day : Program().days) day->day.enabled = day->copy.enabled = shown;
 }
 
 void PickRoom() {
@@ -260,6 +267,7 @@ void LoadRoomProgram() {
     fields.day.onChoose = [day] { PickDay(day); };
     fields.copy.onChange = [day] { CopyTo(day); };
   }
+  ShowGroups(false);
 }
 
 void FillRoomProgram() {

@@ -3,14 +3,18 @@
 // Nothing may crash, no cell may be looked for outside its table, and after every action the tables
 // can be saved and opened to the same cells.
 //
-//   BKCONF_MONKEY_ACTIONS  how many; a few thousand where it is not set
+//   BKCONF_MONKEY_ACTIONS  how many; enough to come into every screen where it is not set
 //   BKCONF_MONKEY_SEED     chooses them; the same seed does the same again
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <functional>
 #include <iostream>
+#include <iterator>
 #include <map>
 #include <optional>
 #include <random>
@@ -30,6 +34,7 @@
 #include "platform/runtime_error.h"
 #include "shell/directory_picker.h"
 #include "shell/directory_screen.h"
+#include "shell/module_file.h"
 #include "shell/open_dialog.h"
 #include "shell/save_dialog.h"
 #include "special/alarm_screen.h"
@@ -92,6 +97,7 @@ class MonkeyTest : public SessionTest {
  protected:
   MonkeyTest() : random_(static_cast<std::uint32_t>(FromEnvironment("BKCONF_MONKEY_SEED", 1))) {
     Port = &impatient_;
+    PutFiles();
     Start();
     for (Screen* screen : Screens) {
       hands_.emplace_back(*screen, static_cast<std::uint32_t>(random_()), Spared);
@@ -122,10 +128,9 @@ class MonkeyTest : public SessionTest {
       const auto answer = std::exchange(messages.asked, nullptr);
       Do([&] { answer(Below(2) == 0); });
     } else if (choice < 2) {
-      ChangeModule();
-    } else if (choice < 3) {
-      const bool language = Below(2) == 0;
-      Do([&] { (language ? MainWindow.ned : MainWindow.frans).Click(); });
+      ChangeSurroundings();
+    } else if (choice < 5) {
+      TransferUnderWay ? PullAdapter() : TakeUpAnother();
     } else if (choice < 12) {
       Wait();
     } else if (choice < 16) {
@@ -186,18 +191,82 @@ class MonkeyTest : public SessionTest {
     Do([&] { clock.Advance(Below(wait)); }, true);
   }
 
-  void ChangeModule() {
-    line.failed = false;
-    if (Below(4) == 0) {
-      line.module = nullptr;
+  /// Takes up another module: from the line, whole or not, or from a file. Only from the main
+  /// window: all others lie over its buttons.
+  void TakeUpAnother() {
+    if (Front() != &MainWindow) return;
+    if (Below(3) == 0) {
+      auto file = files.content.begin();
+      std::advance(file, Below(static_cast<int>(files.content.size())));
+      const std::string path = file->first;
+      if (path.starts_with(House)) Do([&] { OpenModule(path); });
       return;
     }
+    PlugAny();
+    Do([&] { MainWindow.connect.Click(); });
+    constexpr int enough = 120'000;
+    Do([&] { clock.RunUntil([] { return !TransferUnderWay; }, enough); }, true);
+  }
+
+  /// The only way out of a transfer with a module that says no more.
+  void PullAdapter() {
+    line.failed = true;
+    Do([&] { clock.Advance(Second); }, true);
+    line.failed = false;
+    // A port that could not be opened leaves the tool locked; it is started anew then, with what it
+    // had before.
+    if (!line.IsOpen()) LeaveFailedTransfer();
+  }
+
+  void ChangeSurroundings() {
+    switch (Below(6)) {
+      case 0:
+        line.module = nullptr;
+        break;
+      case 1:
+        PlugAny();
+        break;
+      case 2:
+        files.full = !files.full;
+        break;
+      case 3:
+        line.canOpen = !line.canOpen;
+        break;
+      default: {
+        const bool language = Below(2) == 0;
+        Do([&] { (language ? MainWindow.ned : MainWindow.frans).Click(); });
+      }
+    }
+    // What is only ever added to.
+    line.written.clear();
+    line.calls.clear();
+    messages.told.clear();
+    programs.events.clear();
+    directories.tries.clear();
+  }
+
+  void PlugAny() {
+    line.failed = false;
     const auto faults = virtual_module::Faults();
-    const auto fault = static_cast<std::size_t>(Below(2 * static_cast<int>(faults.size())));
+    const auto fault = static_cast<std::size_t>(Below(3 * static_cast<int>(faults.size())));
     const int kind = AllKinds[Below(static_cast<int>(std::size(AllKinds)))];
     Plug(kind, fault < faults.size() ? std::optional(faults[fault].fault) : std::nullopt,
          static_cast<std::uint32_t>(random_()));
   }
+
+  /// The demo house, and each of its files broken off in the middle.
+  void PutFiles() {
+    for (const auto& file : std::filesystem::directory_iterator(BKCONF_DEMO_HOUSE)) {
+      std::ifstream in(file.path(), std::ios::binary);
+      const std::string content(std::istreambuf_iterator<char>(in), {});
+      const std::string name = file.path().filename().string();
+      files.content[std::string(House) + name] = content;
+      files.content[std::string(House) + "Broken " + name] = content.substr(0, content.size() / 2);
+    }
+  }
+
+  inline static constexpr std::string_view House = "/house/";
+  static constexpr int Second = 1000;  // ms
 
   ImpatientLine impatient_{line};
   std::mt19937 random_;
@@ -207,16 +276,23 @@ class MonkeyTest : public SessionTest {
 };
 
 TEST_F(MonkeyTest, NothingThatAnybodyDoesBreaksTheTool) {
-  constexpr std::uint64_t few = 5000;
-  const std::uint64_t actions = FromEnvironment("BKCONF_MONKEY_ACTIONS", few);
-  RecordProperty("seed", std::to_string(FromEnvironment("BKCONF_MONKEY_SEED", 1)));
+  constexpr std::uint64_t enough = 50'000;
+  const std::uint64_t actions = FromEnvironment("BKCONF_MONKEY_ACTIONS", enough);
+  const std::uint64_t seed = FromEnvironment("BKCONF_MONKEY_SEED", 1);
+  std::cout << "seed " << seed << '\n';
   for (std::uint64_t action = 0; action < actions; ++action) {
     Act();
     CheckFile();
-    ASSERT_FALSE(HasFailure()) << "seed " << FromEnvironment("BKCONF_MONKEY_SEED", 1) << ", action "
-                               << action;
+    ASSERT_FALSE(HasFailure()) << "seed " << seed << ", action " << action;
   }
   for (const auto& [where, times] : visits()) std::cout << times << " in " << where << '\n';
+  if (actions < enough) return;
+  for (const Screen* screen : Screens) {
+    EXPECT_TRUE(std::any_of(visits().begin(), visits().end(), [&](const auto& each) {
+      return each.first.starts_with(screen->name + " ");
+    })) << "never came into "
+        << screen->name;
+  }
 }
 
 }  // namespace
