@@ -17,12 +17,11 @@ struct AlarmScreenFields : Screen {
   CheckField inService;
 
   GroupField settingsGroup;
-  /// A table of one cell: the code of the action.
   GroupField triggerGroup;
-  GridField triggerAction;
+  GridField triggerAction;  ///< of one place: the code of the action
   GroupField endGroup;
-  GridField endAction;
-  LabelField note;  ///< an action in words, for five seconds
+  GridField endAction;  ///< the same
+  LabelField note;      ///< an action in words, for five seconds
   ConditionFields conditions;
   CheckField atOnce;
   LabelField delayLabel;

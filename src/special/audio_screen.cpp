@@ -85,15 +85,16 @@ bool IsUnset(const Cell& cell) {
 
 /// How many there are, as far as that was set.
 int CountIn(const Cell& cell, int most) {
-  return IsUnset(cell) ? 0 : std::clamp(cell.Whole() + 1, 0, most);
+  return IsUnset(cell) ? 0 : std::clamp(cell.Whole(), -1, most - 1) + 1;
+}
+
+/// Cells count from 0. A file may hold any number, also one that is none of int with one more.
+std::string ValueText(const Cell& cell) {
+  return IsUnset(cell) ? std::string() : PlainText(cell.Number() + 1);
 }
 
 std::string CountText(const Cell& cell) {
-  return IsUnset(cell) ? std::string(NotChosen) : std::to_string(cell.Whole() + 1);
-}
-
-std::string ValueText(const Cell& cell) {
-  return IsUnset(cell) ? std::string() : std::to_string(cell.Whole() + 1);
+  return IsUnset(cell) ? std::string(NotChosen) : ValueText(cell);
 }
 
 /// Of the main volume: of the first zone, where the shown one follows it.
@@ -256,6 +257,7 @@ void LoadAudioScreen() {
   }
   AudioScreen.loudness.onChange = ChangeLoudness;
   AudioScreen.leave.onClick = [] { AudioScreen.Close(); };
+  ClearZone();
 }
 
 void OpenAudioScreen() {

@@ -48,8 +48,8 @@ constexpr auto OtherKeys =
 constexpr auto OtherTitles = std::to_array<TextId>(
     {TextId::ActionsOfOnOff, TextId::ActionsOfChannelUp, TextId::ActionsOfChannelDown});
 
-/// The picture of the remote control, and where its keys lie in it, in thousandths of its width and
-/// height.
+/// The picture of the remote control, and where its keys lie in the three columns and six lines of
+/// them, counted from the top left.
 constexpr std::string_view RemotePicture = "remote.bmp";
 struct KeyPlace {
   int column;

@@ -288,10 +288,10 @@ TEST_F(MonkeyTest, NothingThatAnybodyDoesBreaksTheTool) {
   for (const auto& [where, times] : visits()) std::cout << times << " in " << where << '\n';
   if (actions < enough) return;
   for (const Screen* screen : Screens) {
-    EXPECT_TRUE(std::any_of(visits().begin(), visits().end(), [&](const auto& each) {
-      return each.first.starts_with(screen->name + " ");
-    })) << "never came into "
-        << screen->name;
+    EXPECT_TRUE(
+        std::any_of(visits().begin(), visits().end(),
+                    [&](const auto& each) { return each.first.starts_with(screen->name + " "); }))
+        << "never came into " << screen->name;
   }
 }
 

@@ -177,6 +177,25 @@ TEST_F(AudioScreenTest, NumbersBeyondTheListsAreShownAsTheyAre) {
   ExpectOnlyChanged(before, {});
 }
 
+TEST_F(AudioScreenTest, NumbersBeyondThoseOfAModuleAreShownAsTheyAre) {
+  struct Row {
+    Cell cell;
+    std::string shown;
+    int zones;
+  };
+  for (const Row& row :
+       {Row{2147483647.0, "2147483648", 16}, Row{"3000000000", "3000000001", 16},
+        Row{-2147483648.0, "-2147483647", 0}, Row{-3e9, "-2999999999", 0}, Row{-1, "0", 0}}) {
+    Open();
+    At(130) = At(131) = row.cell;
+    OpenAgain();
+    EXPECT_EQ(AudioScreen.zones.list.Text(), row.shown);
+    EXPECT_EQ(AudioScreen.sources.list.Text(), row.shown);
+    EXPECT_EQ(AudioScreen.zone.list.items, Numbers(row.zones));
+    EXPECT_EQ(AudioScreen.source.list.items, Numbers(std::min(row.zones, 4)));
+  }
+}
+
 TEST_F(AudioScreenTest, ANumberOfZonesIsStoredLessOneAndClearsTheChosenZone) {
   for (const int count : {1, 2, 9, 15, 16}) {
     OpenAll();

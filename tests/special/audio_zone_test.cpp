@@ -91,6 +91,20 @@ TEST_F(AudioZoneTest, ValuesBeyondTheListsAreShownAsTheyAre) {
   ExpectOnlyChanged(before, {});
 }
 
+TEST_F(AudioZoneTest, ValuesBeyondThoseOfAModuleAreShownAsTheyAre) {
+  OpenAll();
+  for (const ZoneList& row : ZoneLists()) {
+    At(row.cell + 3) = 2147483647.0;
+    At(row.cell + 4) = "-3000000000";
+  }
+  const Snapshot before = TakeSnapshot();
+  PickZone(4);
+  for (const ZoneList& row : ZoneLists()) EXPECT_EQ(Shown(*row.field), "2147483648");
+  PickZone(5);
+  for (const ZoneList& row : ZoneLists()) EXPECT_EQ(Shown(*row.field), "-2999999999");
+  ExpectOnlyChanged(before, {});
+}
+
 TEST_F(AudioZoneTest, EachPickIsStoredInTheCellOfItsZoneAlone) {
   OpenAll();
   const Snapshot before = TakeSnapshot();
