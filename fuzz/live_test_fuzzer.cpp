@@ -16,36 +16,13 @@
 #include "link/link_events.h"
 #include "link/receive_dispatcher.h"
 #include "link/transfer.h"
-#include "platform/machine.h"
 #include "session/state.h"
-#include "shell/main_window.h"
+#include "silent_machine.h"
 
 namespace bkconf {
 namespace {
 
 constexpr int Detectors = 7;
-
-class NoTicks : public TickDriver {
- public:
-  void Arm(Tick& /*tick*/) override {}
-  void Disarm(Tick& /*tick*/) override {}
-};
-
-class DeafPort : public SerialPort {
- public:
-  void SetNumber(int /*number*/) override {}
-  std::string DeviceOf(int /*number*/) const override { return ""; }
-  bool Open() override { return open_ = true; }
-  void Close() override { open_ = false; }
-  bool IsOpen() const override { return open_; }
-  int BytesWaiting() override { return 0; }
-  void FlushInput() override {}
-  std::optional<char> Read() override { return std::nullopt; }
-  void Write(std::string_view /*characters*/) override {}
-
- private:
-  bool open_ = false;
-};
 
 /// A test, and the lines that mean something to it.
 struct Subject {
@@ -149,24 +126,11 @@ void TryLines(std::string_view input) {
   Require(!DiagnosticsScreen.shown, "the screen can be left", "");
 }
 
-void LoadOnce() {
-  static NoTicks ticks;
-  static DeafPort port;
-  static bool loaded = false;
-  if (loaded) return;
-  loaded = true;
-  ActiveTickDriver = &ticks;
-  Port = &port;
-  BusyLoop = [](std::int64_t) {};
-  Language = 1;
-  LoadMainWindow();
-}
-
 }  // namespace
 }  // namespace bkconf
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  bkconf::LoadOnce();
+  bkconf::LoadOnSilentMachine();
   bkconf::TryLines({reinterpret_cast<const char*>(data), size});
   return 0;
 }
