@@ -8,12 +8,16 @@
 namespace bkconf {
 
 Field::Field(Screen& screen, FieldKind fieldKind, std::string_view fieldName)
-    : kind(fieldKind), name(fieldName) {
+    : kind(fieldKind), name(fieldName), screen_(screen) {
   screen.fields.push_back(this);
 }
 
+bool Field::TakesInput() const {
+  return enabled && visible && screen_.shown;
+}
+
 void TextField::Type(std::string_view text) {
-  if (!enabled || !visible) return;
+  if (!TakesInput()) return;
   text_ = text;
   if (onChange) onChange();
 }
@@ -25,14 +29,14 @@ void ListField::Show(std::string_view text) {
 }
 
 void ListField::Pick(int index) {
-  if (!enabled || !visible || index < 0 || index >= static_cast<int>(items.size())) return;
+  if (!TakesInput() || index < 0 || index >= static_cast<int>(items.size())) return;
   index_ = index;
   text_ = items[static_cast<std::size_t>(index)];
   if (onPick) onPick();
 }
 
 void ListField::Type(std::string_view text) {
-  if (!enabled || !visible) return;
+  if (!TakesInput()) return;
   const std::string before = text_;
   Show(text);
   if (onTyped) {
@@ -43,7 +47,7 @@ void ListField::Type(std::string_view text) {
 }
 
 void CalendarField::Pick(const Date& day) {
-  if (!enabled || !visible) return;
+  if (!TakesInput()) return;
   day_ = day;
   if (onPick) onPick();
 }
@@ -53,13 +57,13 @@ void ScrollField::Show(int value) {
 }
 
 void ScrollField::Move(int value) {
-  if (!enabled || !visible || std::clamp(value, lowest, highest) == value_) return;
+  if (!TakesInput() || std::clamp(value, lowest, highest) == value_) return;
   Show(value);
   if (onMove) onMove();
 }
 
 void AreaPictureField::Pick(int area) {
-  if (!enabled || !visible || area < 0 || area >= static_cast<int>(areas.size())) return;
+  if (!TakesInput() || area < 0 || area >= static_cast<int>(areas.size())) return;
   picked_ = area;
   if (onPick) onPick();
 }
@@ -86,7 +90,7 @@ void ListBoxField::Open(int index) {
 }
 
 void CheckField::Set(bool on) {
-  if (!enabled || !visible || checked == on) return;
+  if (!TakesInput() || checked == on) return;
   checked = on;
   if (onChange) onChange();
 }
@@ -97,7 +101,7 @@ OptionField::OptionField(Screen& screen, std::string_view fieldName, OptionField
 }
 
 void OptionField::Choose() {
-  if (!enabled || !visible || chosen_) return;
+  if (!TakesInput() || chosen_) return;
   Show();
   if (onChoose) onChoose();
 }
@@ -138,7 +142,7 @@ void GridField::Blank() {
 }
 
 void GridField::Select(int row, int column) {
-  if (!enabled || !visible || !Has(row, column) || (rowHeader && column == 0)) return;
+  if (!TakesInput() || !Has(row, column) || (rowHeader && column == 0)) return;
   row_ = row;
   column_ = column;
   if (onSelect) onSelect(row, column);
@@ -146,7 +150,7 @@ void GridField::Select(int row, int column) {
 
 void GridField::DoubleClick(int row, int column) {
   const bool onCaptions = row == 0 && column >= 0 && column < static_cast<int>(columns.size());
-  if (!enabled || !visible || !(onCaptions || Has(row, column))) return;
+  if (!TakesInput() || !(onCaptions || Has(row, column))) return;
   Select(row, column);
   if (onDoubleClick) onDoubleClick(row, column);
 }

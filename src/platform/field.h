@@ -62,6 +62,14 @@ struct Field {
   std::optional<Colour> textColour;  ///< of the text; likewise
   bool enabled = true;
   bool visible = true;
+
+ protected:
+  /// Enabled and visible, in a screen that is shown: a screen that is not open, or not any more,
+  /// knows nothing of what it would work on.
+  bool TakesInput() const;
+
+ private:
+  const Screen& screen_;
 };
 
 /// A frame with a caption that is shown and hidden with all that the layout puts into it.
@@ -78,7 +86,7 @@ struct LabelField : Field {
   std::function<void()> onDoubleClick;
 
   void DoubleClick() const {
-    if (enabled && visible && onDoubleClick) onDoubleClick();
+    if (TakesInput() && onDoubleClick) onDoubleClick();
   }
 };
 
@@ -152,7 +160,7 @@ struct ListBoxField : Field {
 
  private:
   bool Has(int index) const {
-    return enabled && visible && index >= 0 && index < static_cast<int>(items_.size());
+    return TakesInput() && index >= 0 && index < static_cast<int>(items_.size());
   }
 
   std::vector<std::string> items_;
@@ -305,7 +313,7 @@ struct ButtonField : Field {
 
   bool Usable() const { return enabled && visible && onClick; }
   void Click() const {
-    if (Usable()) onClick();
+    if (Usable() && TakesInput()) onClick();
   }
 };
 
@@ -394,7 +402,7 @@ struct MenuField : Field {
 
   bool Usable() const;  ///< enabled, as are all menus that it lies in, and there is something to do
   void Click() const {
-    if (Usable()) onClick();
+    if (Usable() && TakesInput()) onClick();
   }
 
  private:

@@ -403,8 +403,8 @@ void Open(int display) {
   FillScreenList();
   Enable(true);
   Show(DisplayMenuScreen.status.caption, TextId::EditMode);
-  DisplayMenuScreen.screens.Pick(0);
   Reveal();
+  DisplayMenuScreen.screens.Pick(0);
 }
 
 void BeginRead() {

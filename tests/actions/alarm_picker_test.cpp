@@ -15,7 +15,7 @@ class AlarmPickerTest : public PickerTest {
     alarm.Load();
     alarm.Reset();
   }
-  Screen other{"Other"};
+  OpenScreen other;
   ActionPicker alarm{other, "alarm", AlarmPicker};
 };
 

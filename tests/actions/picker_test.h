@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "actions/action_picker.h"
+#include "support/open_screen.h"
 #include "support/session_test.h"
 
 namespace bkconf {
@@ -37,7 +38,7 @@ class PickerTest : public SessionTest {
   void ExpectCells(const ActionCells& cells) const;
   void ExpectRefused() const { EXPECT_FALSE(picker.Compose()); }
 
-  Screen screen{"Some"};
+  OpenScreen screen;
   ActionPicker picker;
 };
 

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/field.h"
+#include "support/open_screen.h"
 
 namespace bkconf {
 namespace {
@@ -12,7 +13,7 @@ class CalendarFieldTest : public testing::Test {
     calendar.onPick = [this] { seen.push_back(calendar.Day()); };
   }
 
-  Screen screen{"Some"};
+  OpenScreen screen;
   CalendarField calendar{screen, "calendar"};
   std::vector<Date> seen;
 };

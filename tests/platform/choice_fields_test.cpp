@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/field.h"
+#include "support/open_screen.h"
 
 namespace bkconf {
 namespace {
@@ -14,7 +15,7 @@ class CheckFieldTest : public testing::Test {
     box.onChange = [this] { seen.push_back(box.checked); };
   }
 
-  Screen screen{"Some"};
+  OpenScreen screen;
   CheckField box{screen, "box"};
   std::vector<bool> seen;
 };
@@ -71,7 +72,7 @@ class OptionFieldTest : public testing::Test {
     return names;
   }
 
-  Screen screen{"Some"};
+  OpenScreen screen;
   OptionField one{screen, "one", nullptr};
   OptionField two{screen, "two", &one};
   OptionField three{screen, "three", &one};
@@ -161,7 +162,7 @@ class GridFieldTest : public testing::Test {
   }
   std::string Current() const { return Place("at", grid.CurrentRow(), grid.CurrentColumn()); }
 
-  Screen screen{"Some"};
+  OpenScreen screen;
   GridField grid{screen, "grid"};
   Names events;
 };

@@ -1,12 +1,13 @@
 #include <gtest/gtest.h>
 
 #include "platform/field.h"
+#include "support/open_screen.h"
 
 namespace bkconf {
 namespace {
 
 TEST(ColourTest, AFieldHasNoneUntilItGetsOne) {
-  Screen screen("Some");
+  OpenScreen screen;
   LabelField label(screen, "label");
   ListField list(screen, "list");
   EXPECT_FALSE(label.colour || list.colour);
@@ -24,7 +25,7 @@ TEST(ColourTest, ColoursDifferInAnyPart) {
 }
 
 TEST(ColourTest, PicksAndTextsLeaveItAsItIs) {
-  Screen screen("Some");
+  OpenScreen screen;
   ListField list(screen, "list");
   list.items = {"a", "b"};
   list.colour = Colour{1, 2, 3};

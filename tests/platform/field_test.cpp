@@ -6,6 +6,7 @@
 
 #include "platform/runtime_error.h"
 #include "shell/main_window.h"
+#include "support/open_screen.h"
 
 namespace bkconf {
 namespace {
@@ -23,11 +24,22 @@ class ListFieldTest : public testing::Test {
     EXPECT_EQ(list.Text(), text);
   }
 
-  Screen screen{"Some"};
+  OpenScreen screen;
   ListField list{screen, "list"};
   int picks = 0;
   int typed = 0;
 };
+
+TEST_F(ListFieldTest, NothingIsPickedOrTypedInAScreenThatIsNotShown) {
+  screen.shown = false;
+  list.Pick(1);
+  list.Type("B");
+  ExpectShows(-1, "");
+  EXPECT_EQ(picks + typed, 0);
+  screen.shown = true;
+  list.Pick(1);
+  ExpectShows(1, "B");
+}
 
 TEST_F(ListFieldTest, ShowsNothingAtFirst) {
   ExpectShows(-1, "");
@@ -151,7 +163,7 @@ class ButtonFieldTest : public testing::Test {
     EXPECT_EQ(clicks, 0);
   }
 
-  Screen screen{"Some"};
+  OpenScreen screen;
   ButtonField button{screen, "button"};
   int clicks = 0;
 };
@@ -189,7 +201,7 @@ class MenuFieldTest : public testing::Test {
     EXPECT_EQ(clicks, 0);
   }
 
-  Screen screen{"Some"};
+  OpenScreen screen;
   MenuField menu{screen, nullptr, "menu"};
   MenuField submenu{screen, &menu, "submenu"};
   MenuField entry{screen, &submenu, "entry"};
@@ -240,7 +252,7 @@ TEST_F(MenuFieldTest, AnEntryOfAHiddenMenuDoesNothing) {
 
 class ProgressFieldTest : public testing::Test {
  protected:
-  Screen screen{"Some"};
+  OpenScreen screen;
   ProgressField bar{screen, "bar"};
 };
 
@@ -302,7 +314,7 @@ TEST_F(ProgressFieldTest, ANewValueIsNotDrawnAtOnceSoThatNoFrameWaitsForAPicture
 }
 
 TEST(ScreenTest, FindsAFieldByItsName) {
-  Screen screen{"Some"};
+  OpenScreen screen;
   LabelField label{screen, "label"};
   ListField list{screen, "list"};
   EXPECT_EQ(screen.Find("label"), &label);
@@ -310,7 +322,7 @@ TEST(ScreenTest, FindsAFieldByItsName) {
 }
 
 TEST(ScreenTest, FindsNothingUnderAnotherName) {
-  Screen screen{"Some"};
+  OpenScreen screen;
   LabelField label{screen, "label"};
   for (const char* name : {"", "lab", "labels", "Label"}) {
     EXPECT_EQ(screen.Find(name), nullptr) << name;
@@ -318,7 +330,7 @@ TEST(ScreenTest, FindsNothingUnderAnotherName) {
 }
 
 TEST(ScreenTest, HoldsItsFieldsInTheOrderOfTheirDeclaration) {
-  Screen screen{"Some"};
+  OpenScreen screen;
   GroupField group{screen, "group"};
   PictureField picture{screen, "picture"};
   ButtonField button{screen, "button"};
@@ -326,7 +338,7 @@ TEST(ScreenTest, HoldsItsFieldsInTheOrderOfTheirDeclaration) {
 }
 
 TEST(ScreenTest, EachFieldKnowsItsKindForTheView) {
-  Screen screen{"Some"};
+  OpenScreen screen;
   EXPECT_EQ(GroupField(screen, "1").kind, FieldKind::Group);
   EXPECT_EQ(LabelField(screen, "2").kind, FieldKind::Label);
   EXPECT_EQ(ListField(screen, "3").kind, FieldKind::List);

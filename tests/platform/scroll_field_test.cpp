@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/field.h"
+#include "support/open_screen.h"
 
 namespace bkconf {
 namespace {
@@ -14,7 +15,7 @@ class ScrollFieldTest : public testing::Test {
     scroll.onMove = [this] { seen.push_back(scroll.Value()); };
   }
 
-  Screen screen{"Some"};
+  OpenScreen screen;
   ScrollField scroll{screen, "scroll"};
   std::vector<int> seen;
 };
@@ -74,7 +75,7 @@ TEST_F(ScrollFieldTest, ItMovesWithoutAHandlerToo) {
 }
 
 TEST(DayBandFieldTest, HasNoPartsAtFirstAndPartsAreComparedWhole) {
-  Screen screen{"Some"};
+  OpenScreen screen;
   const DayBandField band(screen, "band");
   EXPECT_EQ(band.kind, FieldKind::DayBand);
   EXPECT_TRUE(band.parts.empty());
