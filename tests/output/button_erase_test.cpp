@@ -117,6 +117,55 @@ TEST_P(ButtonEraseTest, TheBoxesAreFreeAfterOpeningAgain) {
   EXPECT_TRUE(ButtonScreen.clearFirst.enabled);
 }
 
+TEST_P(ButtonEraseTest, NothingIsWrittenWhileTheScreenOrItsFunctionsAreNotShown) {
+  const auto expectNothingWritten = [this] {
+    const Snapshot before = TakeSnapshot();
+    ButtonScreen.buttons.DoubleClick(1, 1);
+    ButtonScreen.buttons.DoubleClick(1, 2);
+    ButtonScreen.clearFirst.Set(true);
+    ButtonScreen.clearSecond.Set(true);
+    ButtonScreen.store.Click();
+    ButtonScreen.baseYes.Click();
+    ButtonScreen.baseNo.Click();
+    ButtonScreen.base.Click();
+    ButtonScreen.baseYes.Click();
+    ExpectOnlyChanged(before, {});
+    EXPECT_FALSE(MainWindow.send.enabled);
+    EXPECT_EQ(Shown(1, 1) + Shown(1, 2), "Q0101R0100");
+  };
+  const auto prepare = [this] {
+    OpenFull();
+    ButtonScreen.base.Click();
+    PickButton(1);
+    ChooseOn(ButtonScreen.first, 'A', 1);
+  };
+  prepare();
+  ButtonScreen.leave.Click();
+  expectNothingWritten();
+  prepare();
+  ButtonScreen.leave.Click();
+  ShownAction(Action::SecondFunctionTime).Click();
+  PickButton(1);
+  ChooseOn(ButtonScreen.first, 'A', 1);
+  expectNothingWritten();
+}
+
+TEST_P(ButtonEraseTest, NoPressTimeIsWrittenWhileTheScreenOrThatTimeIsNotShown) {
+  OpenFull();
+  const Snapshot before = TakeSnapshot();
+  const auto choose = [] {
+    ButtonScreen.time.Pick(1);
+    ButtonScreen.time.Type("3");
+  };
+  choose();
+  ButtonScreen.leave.Click();
+  ShownAction(Action::SecondFunctionTime).Click();
+  ButtonScreen.leave.Click();
+  choose();
+  ExpectOnlyChanged(before, {});
+  EXPECT_FALSE(MainWindow.send.enabled);
+}
+
 INSTANTIATE_TEST_SUITE_P(Kinds, ButtonEraseTest, testing::ValuesIn(ButtonKinds),
                          [](const auto& kind) { return "kind" + std::to_string(kind.param); });
 
