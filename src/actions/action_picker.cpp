@@ -361,7 +361,7 @@ void ActionPicker::OfferTemperatures() {
 
 void ActionPicker::OfferZones() {
   mainZone.visible = secondaryZone.visible = true;
-  output.Offer(Text(TextId::ZoneCaption), NumberItems(1, Zones));
+  output.Offer(Text(variant_.zone), NumberItems(1, Zones));
 }
 
 void ActionPicker::OfferZoneActions() {
@@ -403,7 +403,7 @@ void ActionPicker::PickAction() {
   if (place < (mainZone.Chosen() ? FirstMainValue : FirstSecondaryValue)) {
     value.Hide();
   } else if (!value.list.visible || place != valueFor_) {
-    value.Offer(Text(TextId::ValueCaption), NumberItems(1, Zones));
+    value.Offer(Text(variant_.value), NumberItems(1, Zones));
   }
   valueFor_ = place;
 }
