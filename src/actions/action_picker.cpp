@@ -145,16 +145,22 @@ void LabelledList::Hide() {
   HideList(list);
 }
 
-TemperatureChoice::TemperatureChoice(Screen& screen, const std::string& name, OptionField* first)
+TemperatureChoice::TemperatureChoice(Screen& screen, const std::string& name, OptionField*& first)
     : option(screen, name, first),
       temperature(screen, name + "Degrees"),
-      room(screen, name + "Room") {}
+      room(screen, name + "Room") {
+  if (first == nullptr) first = &option;
+}
 
 namespace {
 
-/// Where the first of the choices stands, also while they are made.
-OptionField* FirstTemperature(ActionPicker& picker) {
-  return &picker.temperatures[0].option;
+/// Each is made where it stays, and nothing is moved on the way: the others can point at the first.
+std::array<TemperatureChoice, 4> MakeTemperatures(Screen& screen, const std::string& prefix) {
+  OptionField* first = nullptr;
+  return {TemperatureChoice(screen, prefix + "RoomTemperature", first),
+          TemperatureChoice(screen, prefix + "RoomBase", first),
+          TemperatureChoice(screen, prefix + "AllTemperature", first),
+          TemperatureChoice(screen, prefix + "AllBase", first)};
 }
 
 }  // namespace
@@ -171,10 +177,7 @@ ActionPicker::ActionPicker(Screen& screen, const std::string& prefix, const Pick
       allOutputs(screen, prefix + "AllOutputs"),
       action(screen, prefix + "Action"),
       value(screen, prefix + "Value"),
-      temperatures{TemperatureChoice(screen, prefix + "RoomTemperature", nullptr),
-                   TemperatureChoice(screen, prefix + "RoomBase", FirstTemperature(*this)),
-                   TemperatureChoice(screen, prefix + "AllTemperature", FirstTemperature(*this)),
-                   TemperatureChoice(screen, prefix + "AllBase", FirstTemperature(*this))},
+      temperatures(MakeTemperatures(screen, prefix)),
       simulationOn(screen, prefix + "SimulationOn", nullptr),
       simulationOff(screen, prefix + "SimulationOff", &simulationOn),
       variant_(variant) {

@@ -136,7 +136,8 @@ struct LabelledList {
 
 /// A choice of the temperature fields: what it needs beside it.
 struct TemperatureChoice {
-  TemperatureChoice(Screen& screen, const std::string& name, OptionField* first);
+  /// `first` is the first choice of the same group. Where it is null this one becomes it.
+  TemperatureChoice(Screen& screen, const std::string& name, OptionField*& first);
 
   OptionField option;
   ListField temperature;
