@@ -177,7 +177,7 @@ void ConfirmEdit() {
 /// it moves up, and what stands behind it is emptied. It is kept so, on purpose.
 void DeleteAction(int context) {
   for (int cell = target; cell <= LastAction; cell += ActionSize) {
-    const bool moves = cell < LastAction && HoldsModuleAction(ContextCell(context, cell));
+    const bool moves = cell < LastAction && HoldsModuleOrContextAction(ContextCell(context, cell));
     for (int i = 0; i < ActionSize; ++i) {
       ContextCell(context, cell + i) =
           moves ? ContextCell(context, cell + ActionSize + i) : Cell(EmptyCell);

@@ -217,7 +217,7 @@ void FillPlainly(int column) {
   for (int button = 0; button < Buttons; ++button) {
     const int cell = CellOf(button, column);
     std::string code(ActionEmptyText);
-    if (HoldsModuleAction(table[cell])) {
+    if (HoldsModuleOrContextAction(table[cell])) {
       code = ActionCode(table[cell], table[cell + 1], table[cell + 2], ValueForm::AsStored);
     } else {
       EraseAction(table, cell);
