@@ -90,7 +90,7 @@ inline constexpr auto LightPickerTypes = std::to_array<PickerType>({
     {TextId::LumenzaModule, 11},
 });
 
-/// The push-buttons.
+/// The push-buttons, and the keys of a remote control.
 inline constexpr PickerVariant ButtonPicker{.types = ButtonPickerTypes,
                                             .code = TextId::CodeCaption};
 

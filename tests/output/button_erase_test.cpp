@@ -276,7 +276,9 @@ TEST_F(MasterBaseFunctionsTest, NoLeavesCorvelaCodes) {
   EXPECT_EQ(MasterBaseDirty, Cell(1));
 }
 
-TEST_F(MasterBaseFunctionsTest, OfARelayModuleHaveASentence) {
+class AssignedBaseFunctionsTest : public ButtonScreenTest {};
+
+TEST_F(AssignedBaseFunctionsTest, OfARelayModuleHaveASentence) {
   Open(0, 1, 'M');
   ButtonScreen.base.Click();
   ButtonScreen.baseYes.Click();
@@ -286,7 +288,7 @@ TEST_F(MasterBaseFunctionsTest, OfARelayModuleHaveASentence) {
   EXPECT_EQ(ButtonScreen.description.caption, "");
 }
 
-TEST_F(MasterBaseFunctionsTest, OfAModuleThatDoesNotToggleHaveNoSentence) {
+TEST_F(AssignedBaseFunctionsTest, OfAModuleThatDoesNotToggleHaveNoSentence) {
   for (const int kind : {5, 7, 8}) {
     Open(kind, 1, 'M');
     ButtonScreen.base.Click();
@@ -297,7 +299,7 @@ TEST_F(MasterBaseFunctionsTest, OfAModuleThatDoesNotToggleHaveNoSentence) {
   }
 }
 
-TEST_F(MasterBaseFunctionsTest, OfAModuleWithoutALetterAreEmpty) {
+TEST_F(AssignedBaseFunctionsTest, OfAModuleWithoutALetterAreEmpty) {
   Open(0);
   ButtonImage[121] = 42;
   ButtonScreen.base.Click();
@@ -308,7 +310,20 @@ TEST_F(MasterBaseFunctionsTest, OfAModuleWithoutALetterAreEmpty) {
   }
 }
 
-TEST_F(MasterBaseFunctionsTest, EscapeMeansNoWhileTheQuestionIsOpen) {
+TEST_F(AssignedBaseFunctionsTest, TheDescriptionFollowsTheSelectedFunction) {
+  Open(0, 1, 'M');
+  ButtonScreen.buttons.Select(3, 1);
+  ButtonScreen.base.Click();
+  ButtonScreen.baseYes.Click();
+  EXPECT_EQ(ButtonScreen.description.caption, "Relaismodule 'M':  Uitgang 03 toggle");
+  ButtonScreen.clearFirst.Set(true);
+  EXPECT_EQ(ButtonScreen.description.caption, "");
+}
+
+/// The frame that asks before they are assigned.
+class BaseQuestionTest : public ButtonScreenTest {};
+
+TEST_F(BaseQuestionTest, EscapeMeansNoWhileTheQuestionIsOpen) {
   Open(0);
   EXPECT_EQ(ButtonScreen.escape, nullptr);
   ButtonScreen.base.Click();
@@ -317,7 +332,7 @@ TEST_F(MasterBaseFunctionsTest, EscapeMeansNoWhileTheQuestionIsOpen) {
   EXPECT_EQ(ButtonScreen.escape, nullptr);
 }
 
-TEST_F(MasterBaseFunctionsTest, EnterMeansYesWhileTheQuestionIsOpenAndStoresOtherwise) {
+TEST_F(BaseQuestionTest, EnterMeansYesWhileTheQuestionIsOpenAndStoresOtherwise) {
   Open(0);
   EXPECT_EQ(ButtonScreen.enter, &ButtonScreen.store);
   for (const ButtonField* answer : {&ButtonScreen.baseYes, &ButtonScreen.baseNo}) {
@@ -332,17 +347,7 @@ TEST_F(MasterBaseFunctionsTest, EnterMeansYesWhileTheQuestionIsOpenAndStoresOthe
   EXPECT_EQ(ButtonScreen.enter, &ButtonScreen.store);
 }
 
-TEST_F(MasterBaseFunctionsTest, TheDescriptionFollowsTheSelectedFunction) {
-  Open(0, 1, 'M');
-  ButtonScreen.buttons.Select(3, 1);
-  ButtonScreen.base.Click();
-  ButtonScreen.baseYes.Click();
-  EXPECT_EQ(ButtonScreen.description.caption, "Relaismodule 'M':  Uitgang 03 toggle");
-  ButtonScreen.clearFirst.Set(true);
-  EXPECT_EQ(ButtonScreen.description.caption, "");
-}
-
-TEST_F(MasterBaseFunctionsTest, TheQuestionIsGoneAfterOpeningAgain) {
+TEST_F(BaseQuestionTest, TheQuestionIsGoneAfterOpeningAgain) {
   Open(0);
   ButtonScreen.base.Click();
   ButtonScreen.leave.Click();
