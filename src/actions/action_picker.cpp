@@ -76,6 +76,7 @@ constexpr auto SecondaryBlocks = std::to_array<int>({32, 80});
 constexpr int Rooms = 8;
 constexpr int HighestTemperature = 40;
 constexpr int Contexts = 50;
+constexpr char LastModuleLetter = 'R';
 constexpr int Codes = 99;
 
 /// What the first row of the master's list tells that has the letter and one of these kinds. Rows
@@ -200,9 +201,7 @@ void ActionPicker::Load() {
   ::bkconf::Show(secondaryZone.caption, TextId::SecondaryZone);
   ::bkconf::Show(simulationOn.caption, TextId::SimulationOn);
   ::bkconf::Show(simulationOff.caption, TextId::SimulationOff);
-  letter.items.clear();
-  for (char each = 'A'; each < ContextLetter; ++each) letter.items.emplace_back(1, each);
-  if (variant_.offersContexts) letter.items.emplace_back(1, ContextLetter);
+  letter.items = LetterItems('A', variant_.offersContexts ? ContextLetter : LastModuleLetter);
   letter.items.emplace_back(1, CorvelaLetter);
   type.items.clear();
   for (const PickerType& row : variant_.types) type.items.push_back(Say(row.name));

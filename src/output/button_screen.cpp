@@ -5,6 +5,7 @@
 #include "actions/action_sentence.h"
 #include "image/tables.h"
 #include "link/transfer.h"
+#include "platform/list_items.h"
 #include "session/language.h"
 #include "session/module_title.h"
 
@@ -325,11 +326,10 @@ void LayOutList() {
                   {std::string(Text(TextId::FirstColumn)), 2},
                   {std::string(Text(TextId::SecondColumn)), 2}};
   list.Resize(Buttons);
-  ButtonScreen.chooser.items.clear();
   for (int button = 1; button <= Buttons; ++button) {
     list.Put(button, 0, std::string(Text(TextId::ButtonNumber)) + std::to_string(button));
-    ButtonScreen.chooser.items.push_back(std::to_string(button));
   }
+  ButtonScreen.chooser.items = NumberItems(1, Buttons);
 }
 
 void Open(bool functions) {
