@@ -46,7 +46,7 @@ std::string TwoDigitsOf(unsigned number) {
 }
 
 /// After a change the cells are joined as they stand: a module's 5 is "05" until then and "5" from
-/// then on. It is kept so, on purpose.
+/// then on, until the list is opened again. It is kept so, on purpose.
 std::string DateOf(int cell, Drawing drawing) {
   std::string date;
   for (const int part : {DateDay, DateMonth, DateYear}) {
