@@ -10,9 +10,8 @@
 //   Master         contexts, what the clock and the daylight start, push-buttons in the hall
 //   A relays       lights of hall, toilet, store, garage, office, landing, children, bathroom; fan,
 //                  television, pump of the heating
-//   B motors       DC relays: shutters of living room, kitchen and bedroom, awning, front door
-//   lock,
-//                  garage door, sprinkler, siren
+//   B motors       DC relays: shutters of living room, kitchen and bedroom, awning, lock of the
+//                  front door, garage door, sprinkler, siren
 //   C dimmers      spots, dining table, reading lamp; the bedroom
 //   D Lumenza      kitchen, bathroom mirror and television wall dimmed; terrace, drive and garden;
 //                  the bathroom's radiator, which the heating switches

@@ -30,7 +30,7 @@ bool HoldsAction(const Cell& target) {
   return (code >= 'A' && code <= ContextLetter) || code == CorvelaLetter;
 }
 
-bool HoldsModuleAction(const Cell& target) {
+bool HoldsModuleOrContextAction(const Cell& target) {
   return HoldsAction(target) && target.Number() != CorvelaLetter;
 }
 

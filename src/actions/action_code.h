@@ -24,8 +24,9 @@ inline constexpr std::string_view ActionEmptyText = "***";
 /// A record holds an action when its first cell is the code of a letter 'A' to 'S', or of 'Z'. The
 /// text "*" ranks above every number and holds none.
 bool HoldsAction(const Cell& target);
-/// The same without 'Z': in some lists Corvela codes count as empty, on purpose.
-bool HoldsModuleAction(const Cell& target);
+/// The same without 'Z': an action of a module, or a context. In some lists Corvela codes count as
+/// empty, on purpose.
+bool HoldsModuleOrContextAction(const Cell& target);
 
 /// The last two characters of a number's text: a code has room for two digits.
 std::string TwoDigits(double number);

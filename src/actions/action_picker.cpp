@@ -76,6 +76,7 @@ constexpr auto SecondaryBlocks = std::to_array<int>({32, 80});
 constexpr int Rooms = 8;
 constexpr int HighestTemperature = 40;
 constexpr int Contexts = 50;
+constexpr char LastModuleLetter = 'R';
 constexpr int Codes = 99;
 
 /// What the first row of the master's list tells that has the letter and one of these kinds. Rows
@@ -145,16 +146,22 @@ void LabelledList::Hide() {
   HideList(list);
 }
 
-TemperatureChoice::TemperatureChoice(Screen& screen, const std::string& name, OptionField* first)
+TemperatureChoice::TemperatureChoice(Screen& screen, const std::string& name, OptionField*& first)
     : option(screen, name, first),
       temperature(screen, name + "Degrees"),
-      room(screen, name + "Room") {}
+      room(screen, name + "Room") {
+  if (first == nullptr) first = &option;
+}
 
 namespace {
 
-/// Where the first of the choices stands, also while they are made.
-OptionField* FirstTemperature(ActionPicker& picker) {
-  return &picker.temperatures[0].option;
+/// Each is made where it stays, and nothing is moved on the way: the others can point at the first.
+std::array<TemperatureChoice, 4> MakeTemperatures(Screen& screen, const std::string& prefix) {
+  OptionField* first = nullptr;
+  return {TemperatureChoice(screen, prefix + "RoomTemperature", first),
+          TemperatureChoice(screen, prefix + "RoomBase", first),
+          TemperatureChoice(screen, prefix + "AllTemperature", first),
+          TemperatureChoice(screen, prefix + "AllBase", first)};
 }
 
 }  // namespace
@@ -171,10 +178,7 @@ ActionPicker::ActionPicker(Screen& screen, const std::string& prefix, const Pick
       allOutputs(screen, prefix + "AllOutputs"),
       action(screen, prefix + "Action"),
       value(screen, prefix + "Value"),
-      temperatures{TemperatureChoice(screen, prefix + "RoomTemperature", nullptr),
-                   TemperatureChoice(screen, prefix + "RoomBase", FirstTemperature(*this)),
-                   TemperatureChoice(screen, prefix + "AllTemperature", FirstTemperature(*this)),
-                   TemperatureChoice(screen, prefix + "AllBase", FirstTemperature(*this))},
+      temperatures(MakeTemperatures(screen, prefix)),
       simulationOn(screen, prefix + "SimulationOn", nullptr),
       simulationOff(screen, prefix + "SimulationOff", &simulationOn),
       variant_(variant) {
@@ -197,9 +201,7 @@ void ActionPicker::Load() {
   ::bkconf::Show(secondaryZone.caption, TextId::SecondaryZone);
   ::bkconf::Show(simulationOn.caption, TextId::SimulationOn);
   ::bkconf::Show(simulationOff.caption, TextId::SimulationOff);
-  letter.items.clear();
-  for (char each = 'A'; each < ContextLetter; ++each) letter.items.emplace_back(1, each);
-  if (variant_.offersContexts) letter.items.emplace_back(1, ContextLetter);
+  letter.items = LetterItems('A', variant_.offersContexts ? ContextLetter : LastModuleLetter);
   letter.items.emplace_back(1, CorvelaLetter);
   type.items.clear();
   for (const PickerType& row : variant_.types) type.items.push_back(Say(row.name));
@@ -361,7 +363,7 @@ void ActionPicker::OfferTemperatures() {
 
 void ActionPicker::OfferZones() {
   mainZone.visible = secondaryZone.visible = true;
-  output.Offer(Text(TextId::ZoneCaption), NumberItems(1, Zones));
+  output.Offer(Text(variant_.zone), NumberItems(1, Zones));
 }
 
 void ActionPicker::OfferZoneActions() {
@@ -403,7 +405,7 @@ void ActionPicker::PickAction() {
   if (place < (mainZone.Chosen() ? FirstMainValue : FirstSecondaryValue)) {
     value.Hide();
   } else if (!value.list.visible || place != valueFor_) {
-    value.Offer(Text(TextId::ValueCaption), NumberItems(1, Zones));
+    value.Offer(Text(variant_.value), NumberItems(1, Zones));
   }
   valueFor_ = place;
 }

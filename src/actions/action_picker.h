@@ -33,7 +33,9 @@ struct PickerVariant {
   TextId prompt = TextId::TypePrompt;  ///< what the type field shows until the type is chosen
   TextId output = TextId::OutputCaption;
   TextId detector = TextId::DetectorCaption;
+  TextId zone = TextId::ZoneCaption;
   TextId action = TextId::ActionCaption;
+  TextId value = TextId::ValueCaption;
   TextId code = TextId::CodeName;
   bool offersContexts = true;     ///< the letter 'S'
   bool offersAllOutputs = false;  ///< a box that stands for every output of the target
@@ -88,7 +90,7 @@ inline constexpr auto LightPickerTypes = std::to_array<PickerType>({
     {TextId::LumenzaModule, 11},
 });
 
-/// The push-buttons.
+/// The push-buttons, and the keys of a remote control.
 inline constexpr PickerVariant ButtonPicker{.types = ButtonPickerTypes,
                                             .code = TextId::CodeCaption};
 
@@ -98,7 +100,9 @@ inline constexpr PickerVariant ContextPicker{.types = ContextPickerTypes,
                                              .prompt = TextId::ContextTypePrompt,
                                              .output = TextId::OutputName,
                                              .detector = TextId::DetectorName,
+                                             .zone = TextId::Zone,
                                              .action = TextId::FunctionName,
+                                             .value = TextId::ValueName,
                                              .offersContexts = false,
                                              .offersAllOutputs = true,
                                              .form = StoredForm::TwoDigitTexts};
@@ -132,7 +136,8 @@ struct LabelledList {
 
 /// A choice of the temperature fields: what it needs beside it.
 struct TemperatureChoice {
-  TemperatureChoice(Screen& screen, const std::string& name, OptionField* first);
+  /// `first` is the first choice of the same group. Where it is null this one becomes it.
+  TemperatureChoice(Screen& screen, const std::string& name, OptionField*& first);
 
   OptionField option;
   ListField temperature;

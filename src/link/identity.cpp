@@ -52,12 +52,17 @@ void SetUp(const ModuleKind& kind) {
   }
 }
 
+/// A Send without an image has nothing to write, but it repeats a read as any other Send does.
+bool ReadsOnly(const ModuleKind& kind) {
+  return !SentByUser() || FindReadRow(kind.code, PendingCommand.Text()) != nullptr;
+}
+
 /// An image in memory takes a module of its own kind only; without one, a read takes any. What a
 /// file put there as a text is no kind, and fits nothing.
 bool Fits(const ModuleKind& kind) {
   if (!ActiveModuleType.IsNumber()) return false;
-  const bool takesAny = ActiveModuleType.Number() == NoModule && !SentByUser();
-  return takesAny || ActiveModuleType.Number() == kind.code;
+  if (ActiveModuleType.Number() == NoModule) return ReadsOnly(kind);
+  return ActiveModuleType.Number() == kind.code;
 }
 
 }  // namespace

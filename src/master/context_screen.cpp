@@ -174,10 +174,12 @@ void ConfirmEdit() {
 }
 
 /// The actions behind it move up. One of them that is a Corvela code counts as the end of the list:
-/// it moves up, and what stands behind it is emptied. It is kept so, on purpose.
+/// it moves up, and 42 takes its place. What stands behind that is emptied by `Finish`, though only
+/// up to `LastCleanedCell`: actions farther back stay, moved up and out of sight. It is kept so, on
+/// purpose.
 void DeleteAction(int context) {
   for (int cell = target; cell <= LastAction; cell += ActionSize) {
-    const bool moves = cell < LastAction && HoldsModuleAction(ContextCell(context, cell));
+    const bool moves = cell < LastAction && HoldsModuleOrContextAction(ContextCell(context, cell));
     for (int i = 0; i < ActionSize; ++i) {
       ContextCell(context, cell + i) =
           moves ? ContextCell(context, cell + ActionSize + i) : Cell(EmptyCell);

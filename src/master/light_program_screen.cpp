@@ -19,7 +19,7 @@ constexpr ProgramList List{
                  .slotSize = 5,
                  .action = 2,
                  .lastMoved = 199,
-                 .moves = HoldsModuleAction,
+                 .moves = HoldsModuleOrContextAction,
                  .form = ValueForm::AsStored},
     .command = Read3,
     .read = LinkEvent::LightProgramsRead,

@@ -46,7 +46,7 @@ std::string TwoDigitsOf(unsigned number) {
 }
 
 /// After a change the cells are joined as they stand: a module's 5 is "05" until then and "5" from
-/// then on. It is kept so, on purpose.
+/// then on, until the list is opened again. It is kept so, on purpose.
 std::string DateOf(int cell, Drawing drawing) {
   std::string date;
   for (const int part : {DateDay, DateMonth, DateYear}) {
@@ -100,7 +100,8 @@ void TimeProgramScreenFields::ClearMoment() {
 }
 
 void TimeProgramScreenFields::ShowMoment(bool visible) {
-  // Another day is one of the two ways out of the question for a date: it stays in sight.
+  // Another day is one of the two ways out of the question for a date: it stays in sight until one
+  // of them is taken.
   if (!visible && calendar.visible) return;
   for (Field* field : std::initializer_list<Field*>{&timeLabel, &time, &dayLabel, &day}) {
     field->visible = field->enabled = visible;
@@ -116,12 +117,14 @@ void TimeProgramScreenFields::AskDate(bool asks) {
 
 void TimeProgramScreenFields::PickDay() {
   AskDate(day.Index() + 1 == OnDateCode);
+  ShowMoment(picker.TargetKnown());
 }
 
 void TimeProgramScreenFields::PickDate() {
   const Date date = calendar.Day();
   day.Show(TwoDigitsOf(date.day) + "-" + TwoDigitsOf(date.month) + "-" + TwoDigitsOf(date.year));
   AskDate(false);
+  ShowMoment(picker.TargetKnown());
 }
 
 bool TimeProgramScreenFields::IsMomentComplete() const {

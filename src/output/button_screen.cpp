@@ -5,6 +5,7 @@
 #include "actions/action_sentence.h"
 #include "image/tables.h"
 #include "link/transfer.h"
+#include "platform/list_items.h"
 #include "session/language.h"
 #include "session/module_title.h"
 
@@ -62,6 +63,12 @@ constexpr int Buttons = 20;
 constexpr int TimeCell = 122;
 constexpr int HalfSeconds = 8;
 constexpr int Master = 9;
+
+/// Whether the user can work in that look of the screen, or part of it. What is hidden writes
+/// nothing, whoever presses it.
+bool InUse(const GroupField& group) {
+  return ButtonScreen.shown && group.visible;
+}
 
 /// The first of the three cells of a button's function. `button` counts from 0; column 1 holds the
 /// first functions, column 2 the second.
@@ -141,6 +148,7 @@ void StoreFunctions(int button) {
 }
 
 void Store() {
+  if (!InUse(ButtonScreen.functionsGroup)) return;
   const int button = ButtonScreen.chooser.Index();
   if (button < 0) return;
   ButtonScreen.description.caption.clear();
@@ -152,7 +160,7 @@ void Store() {
 }
 
 void DoubleClick(int row, int column) {
-  if (row == 0) return;
+  if (row == 0 || !InUse(ButtonScreen.functionsGroup)) return;
   if (column == 0) {
     ButtonScreen.chooser.Pick(row - 1);
     return;
@@ -167,7 +175,7 @@ void DoubleClick(int row, int column) {
 
 /// The box stays ticked until the next store.
 void ClearAll(CheckField& box, int column) {
-  if (!box.checked) return;
+  if (!box.checked || !InUse(ButtonScreen.functionsGroup)) return;
   box.enabled = false;
   for (int button = 0; button < Buttons; ++button) {
     EraseAction(ButtonTable(), CellOf(button, column));
@@ -210,7 +218,7 @@ void FillPlainly(int column) {
   for (int button = 0; button < Buttons; ++button) {
     const int cell = CellOf(button, column);
     std::string code(ActionEmptyText);
-    if (HoldsModuleAction(table[cell])) {
+    if (HoldsModuleOrContextAction(table[cell])) {
       code = ActionCode(table[cell], table[cell + 1], table[cell + 2], ValueForm::AsStored);
     } else {
       EraseAction(table, cell);
@@ -225,12 +233,18 @@ void ShowBaseQuestion(bool shown) {
   ButtonScreen.escape = shown ? &ButtonScreen.baseNo : nullptr;
 }
 
+void AskForBaseFunctions() {
+  if (InUse(ButtonScreen.functionsGroup)) ShowBaseQuestion(true);
+}
+
 void CloseBaseQuestion() {
+  if (!InUse(ButtonScreen.baseGroup)) return;
   MasterBaseDirty = 1;
   ShowBaseQuestion(false);
 }
 
 void AssignBaseFunctions() {
+  if (!InUse(ButtonScreen.baseGroup)) return;
   for (const BaseFunctions& row : BaseRows) {
     if (!row.kinds.Contains(ActiveCode())) continue;
     AssignBase(1, row.first);
@@ -254,6 +268,7 @@ void ShowTime() {
 }
 
 void PickTime() {
+  if (!InUse(ButtonScreen.timeGroup)) return;
   ButtonTable()[TimeCell] = HalfSeconds - ButtonScreen.time.Index();
   SignalButtonChange();
 }
@@ -311,11 +326,10 @@ void LayOutList() {
                   {std::string(Text(TextId::FirstColumn)), 2},
                   {std::string(Text(TextId::SecondColumn)), 2}};
   list.Resize(Buttons);
-  ButtonScreen.chooser.items.clear();
   for (int button = 1; button <= Buttons; ++button) {
     list.Put(button, 0, std::string(Text(TextId::ButtonNumber)) + std::to_string(button));
-    ButtonScreen.chooser.items.push_back(std::to_string(button));
   }
+  ButtonScreen.chooser.items = NumberItems(1, Buttons);
 }
 
 void Open(bool functions) {
@@ -349,7 +363,7 @@ void LoadButtonScreen() {
   ButtonScreen.store.onClick = Store;
   ButtonScreen.clearFirst.onChange = [] { ClearAll(ButtonScreen.clearFirst, 1); };
   ButtonScreen.clearSecond.onChange = [] { ClearAll(ButtonScreen.clearSecond, 2); };
-  ButtonScreen.base.onClick = [] { ShowBaseQuestion(true); };
+  ButtonScreen.base.onClick = AskForBaseFunctions;
   ButtonScreen.baseYes.onClick = AssignBaseFunctions;
   ButtonScreen.baseNo.onClick = CloseBaseQuestion;
   ButtonScreen.time.onPick = PickTime;

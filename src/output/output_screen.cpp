@@ -5,6 +5,7 @@
 #include "image/kind_set.h"
 #include "image/tables.h"
 #include "link/transfer.h"
+#include "platform/list_items.h"
 #include "session/language.h"
 #include "session/module_title.h"
 
@@ -193,21 +194,14 @@ void ShowCaptions() {
   }
 }
 
-void FillNumbers(ListField& list, int last, const std::string& behind = "", int step = 1) {
-  list.items.clear();
-  for (int number = step; number <= last * step; number += step) {
-    list.items.push_back(std::to_string(number) + behind);
-  }
-}
-
 void FillLists() {
   constexpr int longestTime = 15;
   constexpr int startSteps = 9;
-  FillNumbers(OutputScreen.output, Outputs);
-  FillNumbers(OutputScreen.linked, Outputs);
-  FillNumbers(OutputScreen.time, longestTime);
-  FillNumbers(OutputScreen.channel, Channels);
-  FillNumbers(OutputScreen.start, startSteps, "%", 10);
+  OutputScreen.output.items = OutputScreen.linked.items = NumberItems(1, Outputs);
+  OutputScreen.time.items = NumberItems(1, longestTime);
+  OutputScreen.channel.items = NumberItems(1, Channels);
+  OutputScreen.start.items = NumberItems(1, startSteps);
+  for (std::string& tens : OutputScreen.start.items) tens += "0%";
   OutputScreen.function.items.clear();
   for (const OutputFunction& row : Functions) OutputScreen.function.items.push_back(Say(row.name));
 }

@@ -48,7 +48,9 @@ Reason ReadWhole(const std::string& path, std::string& content) {
   const fs::path name = fs::u8path(path);
   std::error_code error;
   if (Reason reason = WhyNotRegular(name, error); !reason.empty()) return reason;
-  if (fs::file_size(name, error) > LargestFile) return ReasonOf(std::errc::file_too_large);
+  const std::uintmax_t size = fs::file_size(name, error);
+  if (error) return error.message();
+  if (size > LargestFile) return ReasonOf(std::errc::file_too_large);
   errno = 0;
   std::ifstream file(name, std::ios::binary);
   if (!file) return LastReason();
@@ -56,6 +58,8 @@ Reason ReadWhole(const std::string& path, std::string& content) {
   while (file) {
     file.read(piece.data(), piece.size());
     content.append(piece.data(), static_cast<std::size_t>(file.gcount()));
+    // A file may grow meanwhile, and some that the system makes up tell no size.
+    if (content.size() > LargestFile) return ReasonOf(std::errc::file_too_large);
   }
   return file.bad() ? LastReason() : "";
 }

@@ -46,7 +46,8 @@ void ShowNoFolderName() {
 }
 
 /// A folder that cannot be made is tried again and again, in case that what is in the way goes. A
-/// change of the name ends that: half of it would be made otherwise while the rest is typed.
+/// change of the name ends that: half of it would be made otherwise while the rest is typed. So
+/// does another directory, where nobody asked for the folder.
 void MakeFolder() {
   if (!DirectorySystem->Make(Joined(SaveDialog.lists.Path(), SaveDialog.folderName.Text()))) {
     if (!FolderRetry.Enabled()) FolderRetry.Enable();
@@ -62,6 +63,10 @@ Tick FolderRetry{"FolderRetry", 100, MakeFolder};
 
 void LoadSaveDialog() {
   SaveDialog.LoadLists(TextId::SaveTitle, TextId::SaveIn);
+  SaveDialog.lists.onChange = [showDirectory = SaveDialog.lists.onChange] {
+    showDirectory();
+    FolderRetry.Disable();
+  };
   Show(SaveDialog.fileNameLabel.caption, TextId::FileName);
   Show(SaveDialog.fileNameLabel.toolTip, TextId::FileNameHint);
   Show(SaveDialog.save.caption, TextId::SaveButton);
@@ -75,7 +80,6 @@ void LoadSaveDialog() {
     FolderRetry.Disable();
     SaveDialog.makeFolder.enabled = true;
   };
-  SaveDialog.directories.onPick = [] { FolderRetry.Disable(); };
   SaveDialog.makeFolder.onClick = MakeFolder;
   SaveDialog.onClose = [] {
     FolderRetry.Disable();

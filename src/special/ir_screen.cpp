@@ -5,6 +5,7 @@
 #include "actions/action_code.h"
 #include "image/tables.h"
 #include "link/transfer.h"
+#include "platform/list_items.h"
 #include "platform/machine.h"
 #include "session/language.h"
 #include "session/module_title.h"
@@ -193,8 +194,7 @@ void LoadIrScreen() {
   IrScreen.picker.Load();
   IrScreen.picker.refusesLetter = RefuseOwnLetter;
   IrScreen.remote.onPick = PickKey;
-  IrScreen.row.items.clear();
-  for (int row = 1; row <= RowsToFill; ++row) IrScreen.row.items.push_back(std::to_string(row));
+  IrScreen.row.items = NumberItems(1, RowsToFill);
   for (int row = 0; row < IrRows; ++row) {
     IrRowFields& fields = *IrScreen.rows[static_cast<std::size_t>(row)];
     fields.number.caption = std::to_string(row + 1);

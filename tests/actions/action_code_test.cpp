@@ -22,6 +22,17 @@ void ExpectCodes(const std::vector<Row>& rows) {
   for (const Row& row : rows) EXPECT_EQ(CodeOf(row.cells), row.code);
 }
 
+TEST(ActionCodeTest, ModulesAndContextsAreToldFromCorvelaCodes) {
+  for (int code = 'A'; code <= 'S'; ++code) {
+    EXPECT_TRUE(HoldsAction(code) && HoldsModuleOrContextAction(code)) << code;
+  }
+  EXPECT_TRUE(HoldsAction('Z'));
+  EXPECT_FALSE(HoldsModuleOrContextAction('Z'));
+  for (const Cell& none : std::vector<Cell>{42, 'A' - 1, 'T', 'Y', 'Z' + 1, Cell(), "*"}) {
+    EXPECT_FALSE(HoldsAction(none) || HoldsModuleOrContextAction(none)) << none.Text();
+  }
+}
+
 TEST(ActionCodeTest, IsTheLetterTheNumberFromOneAndTheValue) {
   ExpectCodes({
       {{65, 0, 0}, "A0100"},

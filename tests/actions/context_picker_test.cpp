@@ -132,6 +132,19 @@ TEST_F(ContextPickerTest, CaptionsHaveNoColonInFrench) {
                   {'Z', "Code", "Code", ""}});
 }
 
+TEST_F(ContextPickerTest, CaptionsOfAudioHaveNoColonEither) {
+  for (const int language : {1, 2}) {
+    BeginOnMaster(language);
+    PickLetter('H');
+    EXPECT_EQ(picker.output.label.caption, "Zone");
+    picker.mainZone.Choose();
+    EXPECT_EQ(picker.action.label.caption, language == 1 ? "Functie" : "Fonction");
+    Pick(picker.action.list, "VOL..");
+    EXPECT_TRUE(picker.value.label.visible);
+    EXPECT_EQ(picker.value.label.caption, language == 1 ? "Waarde" : "Valeur");
+  }
+}
+
 TEST_F(ContextPickerTest, ZOpensTwoListsOfCodesUnderTheTypeCorvela) {
   PickLetter('Z');
   EXPECT_EQ(picker.type.Text(), "Corvela");

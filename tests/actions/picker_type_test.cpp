@@ -134,6 +134,21 @@ TEST_F(PickerTypeTest, AnActionWithTwoDotsNeedsAValue) {
   }
 }
 
+TEST_F(PickerTypeTest, TheListsOfAnAudioInterfaceAreCalled) {
+  for (const int language : {1, 2}) {
+    Begin(language, 0, 'R');
+    PickTarget('A', Audio);
+    EXPECT_EQ(picker.output.label.caption, "Zone:");
+    for (OptionField* zone : {&picker.mainZone, &picker.secondaryZone}) {
+      zone->Choose();
+      EXPECT_EQ(picker.action.label.caption, language == 1 ? "Actie:" : "Action:");
+      Pick(picker.action.list, "VOL..");
+      EXPECT_TRUE(picker.value.label.visible);
+      EXPECT_EQ(picker.value.label.caption, language == 1 ? "Waarde:" : "Valeur:");
+    }
+  }
+}
+
 TEST_F(PickerTypeTest, AnotherActionClearsTheValue) {
   PickTarget('A', Audio);
   picker.mainZone.Choose();

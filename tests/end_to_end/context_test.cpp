@@ -128,9 +128,9 @@ TEST_F(ContextScreens, ActionsAreAddedAndErasedByKeyboardAndOnlyTheContextsAreSe
   Await("panel", texts().edit);
   StepToLetter('H', "Interface audio");
   PressOn("radio button", "Zone principale");
-  StepInList(Editor("Zone:"), 1, "2");
+  StepInList(Editor("Zone"), 1, "2");
   StepInList(Editor(texts().function), 11, "VOL..");
-  StepInList(Editor("Valeur:"), 4, "5");
+  StepInList(Editor("Valeur"), 4, "5");
   desktop().Press({"Return"});
   AwaitGone("panel", texts().edit);
   contexts_[context].push_back({'H', 33, 4});

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "image/commands.h"
 #include "link/link_ticks.h"
 #include "link/transfer.h"
@@ -140,6 +142,41 @@ TEST_F(BusLinkTest, APollAtTheLastLookBeforeTheOverflowIsAnsweredAndOneLookLater
     clock.Advance(5);
     EXPECT_EQ(late.AllWritten().size(), look == 20000 ? 22U : 0U) << look;
   }
+  Port = &line;
+}
+
+/// A line whose looks take no time, and that has a poll at the look of the given number.
+class QuickLine : public FakeLine {
+ public:
+  QuickLine(VirtualClock& clock, int look) : FakeLine(clock), looksLeft_(look) {}
+  int BytesWaiting() override {
+    if (--looksLeft_ != 0) return 0;
+    Receive("M");
+    return 1;
+  }
+  int Flushes() const { return static_cast<int>(std::count(calls.begin(), calls.end(), "flush")); }
+
+ private:
+  int looksLeft_;
+};
+
+TEST_F(BusLinkTest, TheWaitForAPollBeginsFiveMillisecondsAfterTheStartAndAfterTheOneBefore) {
+  QuickLine quick(clock, 20001);  // the first look of the second wait
+  quick.Open();
+  Port = &quick;
+  StartWithPoll();
+  clock.Advance(4);
+  EXPECT_EQ(quick.Flushes(), 0);
+  clock.Advance(1);
+  EXPECT_EQ(quick.Flushes(), 1);
+  clock.Advance(4);
+  EXPECT_EQ(quick.Flushes(), 1);
+  EXPECT_EQ(quick.AllWritten(), "");
+  clock.Advance(1);
+  // Before the poll, and behind the burst that answers it.
+  EXPECT_EQ(quick.Flushes(), 3);
+  EXPECT_EQ(quick.AllWritten(), std::string(22, 'D'));
+  EXPECT_TRUE(IdentityWait.Enabled());
   Port = &line;
 }
 

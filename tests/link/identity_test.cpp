@@ -44,7 +44,7 @@ class IdentityTest : public SessionTest {
   void Identify(std::string_view identity, Cell active, int language = 1) {
     Start(language);
     ActiveModuleType = active;
-    PendingCommand = "T80000";
+    PendingCommand = command;
     ASSERT_TRUE(StartTransfer());
     WakeUpWait.Disable();
     WriteInProgress = sent;
@@ -52,6 +52,7 @@ class IdentityTest : public SessionTest {
     TestIdentity();
   }
 
+  std::string command = "T80000";
   int sent = 0;  ///< 1 when a Send started the transfer
 };
 
@@ -112,6 +113,55 @@ TEST_F(IdentityTest, ARefusedSendIsNoLongerAWrite) {
   sent = 1;
   Identify("DISPL5", 0);
   EXPECT_EQ(WriteInProgress.Number(), 0);
+}
+
+TEST_F(IdentityTest, ASendWithoutAnImageTakesAnyKindWhoseReadItRepeats) {
+  sent = 1;
+  for (const int kind : AllKinds) {
+    Identify("DISPL" + std::to_string(kind), NoModule);
+    EXPECT_EQ(ActiveCode(), kind);
+    EXPECT_TRUE(messages.told.empty());
+  }
+}
+
+TEST_F(IdentityTest, ASendWithoutAnImageIsRefusedWhereItsCommandIsNoReadOfTheModule) {
+  sent = 1;
+  // Writes, live tests, and the scan of a master, which is a test for any other.
+  for (const char* each : {"", "T70000", "T71000", "T80100", "T80300", "T80400"}) {
+    command = each;
+    for (const int kind : AllKinds) {
+      if (command == "T80400" && kind == 9) continue;
+      messages.told.clear();
+      Identify("DISPL" + std::to_string(kind), NoModule);
+      EXPECT_EQ(ActiveCode(), NoModule) << command << " " << kind;
+      EXPECT_EQ(messages.told.size(), 1U) << command << " " << kind;
+    }
+  }
+}
+
+TEST_F(IdentityTest, ASendBehindAConnectThatWasRefusedReadsTheRightModule) {
+  Start();
+  for (const int kind : AllKinds) {
+    messages.told.clear();
+    MainWindow.nieuw.Click();
+    Plug(kind, Fault::UnknownIdentity);
+    ReadModule();
+    ASSERT_EQ(messages.told.size(), 1U);
+    messages.told.clear();
+    virtual_module::Module& module = Plug(kind);
+    const auto memory = module.memory();
+    SendToModule();
+    EXPECT_TRUE(messages.told.empty()) << kind;
+    EXPECT_EQ(MainWindow.status.caption, "Edit mode");
+    ASSERT_EQ(ActiveCode(), kind);
+    const CellPlace& address = ActiveKind()->address;
+    if (address.table != nullptr) {
+      EXPECT_EQ((*address.table)[address.index].Whole(),
+                memory.Cells(address.table->name)[static_cast<std::size_t>(address.index)]);
+    }
+    EXPECT_EQ(module.memory(), memory) << kind;
+    EXPECT_EQ(WriteInProgress.Number(), 0);
+  }
 }
 
 TEST_F(IdentityTest, AnUnknownCodeWithNoImageLeavesNoImage) {

@@ -93,6 +93,23 @@ TEST_F(LightListTest, ValuesAreShownAsStoredAlsoInAudioBlocks) {
   ExpectRows({"H1601" + Moment(), "H1701" + Moment(), "H3404" + Moment()});
 }
 
+TEST_F(LightListTest, HasWordsForModulesWithOutputsAndForNoOthers) {
+  const std::map<char, std::string> sentences = {{'A', "Relaismodule 'A':  Uitgang 01 aan"},
+                                                 {'B', "Relaismodule DC 'B':  Uitgang 01 aan"},
+                                                 {'C', "Dimmodule 'C':  Uitgang 01 aan"},
+                                                 {'D', "Lumenza module 'D':  Uitgang 01 aan"},
+                                                 {'E', ""},
+                                                 {'G', ""},
+                                                 {'H', ""},
+                                                 {'I', ""}};
+  for (const auto& [letter, sentence] : sentences) {
+    Open({On(letter)});
+    screen.programs.Select(1, 1);
+    EXPECT_EQ(screen.programs.At(1, 1), std::string(1, letter) + "0101");
+    EXPECT_EQ(screen.description.caption, sentence) << letter;
+  }
+}
+
 // --- The editor ---------------------------------------------------------------------------------
 
 TEST_F(LightListTest, DirectionAndLevelAppearWhenTheTargetIsKnown) {

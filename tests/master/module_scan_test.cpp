@@ -85,6 +85,17 @@ TEST_F(ModuleScanTest, BringsTheModulesOfTheBus) {
   ExpectOnlyChanged(before, {"ButtonImage[123]", "ButtonImage[144]", "PendingCommand"});
 }
 
+TEST_F(ModuleScanTest, ShowsTheModulesWithTheLastCellBeforeTheModuleSaysThatItIsDone) {
+  OpenOther();
+  Plug({9, virtual_module::LoadImage(std::filesystem::path(BKCONF_DEMO_HOUSE) / "Master.BK1"),
+        virtual_module::Fault::NoStop});
+  page.scan.Click();
+  clock.Advance(60'000);
+  EXPECT_TRUE(TransferUnderWay);
+  ExpectRows(House());
+  ExpectUsable(false);
+}
+
 TEST_F(ModuleScanTest, ShowsTheModulesInFrench) {
   OpenOther(2);
   page.scan.Click();

@@ -124,6 +124,21 @@ TEST_F(TimeEditorTest, AnotherLetterLeavesTheDayInSightWhileADateIsAskedFor) {
   ExpectAsksForDate(false);
 }
 
+TEST_F(TimeEditorTest, TimeAndDayGoWithTheQuestionForADateWhereTheTargetIsNotKnown) {
+  for (const bool picksDate : {false, true}) {
+    Prepare("Op datum");
+    PickLetter('K');
+    ExpectMomentShown(true);
+    if (picksDate) fields.calendar.Pick({2027, 1, 9});
+    if (!picksDate) PickDay("Zaterdag");
+    ExpectAsksForDate(false);
+    ExpectMomentShown(false);
+    fields.picker.type.Pick(0);
+    ExpectMomentShown(true);
+    EXPECT_EQ(fields.day.Text(), picksDate ? "09-01-27" : "Zaterdag");
+  }
+}
+
 TEST_F(TimeEditorTest, ADateCanBeAskedForAgainAndBeginsWithTodayAnew) {
   Prepare("Op datum");
   fields.calendar.Pick({2027, 1, 9});

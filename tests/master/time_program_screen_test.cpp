@@ -73,6 +73,23 @@ TEST_F(TimeProgramTest, AudioBlocksCountTheirValueFromOne) {
   ExpectRows({"H1601" + Moment(), "H1702" + Moment(), "H3505" + Moment(), "C0490" + Moment()});
 }
 
+TEST_F(TimeProgramTest, HasWordsForAllModulesButASimulation) {
+  const std::map<char, std::string> sentences = {{'A', "Relaismodule 'A':  Uitgang 01 aan"},
+                                                 {'B', "Relaismodule DC 'B':  Uitgang 01 aan"},
+                                                 {'C', "Dimmodule 'C':  Uitgang 01 aan"},
+                                                 {'D', "Lumenza module 'D':  Uitgang 01 aan"},
+                                                 {'E', "Temp. module 'E':  01°C in ruimte 01"},
+                                                 {'G', "Alarmmodule 'G':  Detector 01 aan"},
+                                                 {'H', "Audio interface 'H':  Hoofdzone 01 aan"},
+                                                 {'I', ""}};
+  for (const auto& [letter, sentence] : sentences) {
+    Open({On(letter)});
+    screen.programs.Select(1, 1);
+    EXPECT_EQ(screen.programs.At(1, 1), std::string(1, letter) + "0101");
+    EXPECT_EQ(screen.description.caption, sentence) << letter;
+  }
+}
+
 TEST_F(TimeProgramTest, ADateHasTwoDigitsOnOpeningAndStandsAsItIsStoredAfterAChange) {
   const Slot date = {7, 5, 8, 5, 3, 9, 65, 0, 1};
   const Slot texts = {7, 5, 8, "05", "03", "09", 65, 1, 1};

@@ -117,6 +117,55 @@ TEST_P(ButtonEraseTest, TheBoxesAreFreeAfterOpeningAgain) {
   EXPECT_TRUE(ButtonScreen.clearFirst.enabled);
 }
 
+TEST_P(ButtonEraseTest, NothingIsWrittenWhileTheScreenOrItsFunctionsAreNotShown) {
+  const auto expectNothingWritten = [this] {
+    const Snapshot before = TakeSnapshot();
+    ButtonScreen.buttons.DoubleClick(1, 1);
+    ButtonScreen.buttons.DoubleClick(1, 2);
+    ButtonScreen.clearFirst.Set(true);
+    ButtonScreen.clearSecond.Set(true);
+    ButtonScreen.store.Click();
+    ButtonScreen.baseYes.Click();
+    ButtonScreen.baseNo.Click();
+    ButtonScreen.base.Click();
+    ButtonScreen.baseYes.Click();
+    ExpectOnlyChanged(before, {});
+    EXPECT_FALSE(MainWindow.send.enabled);
+    EXPECT_EQ(Shown(1, 1) + Shown(1, 2), "Q0101R0100");
+  };
+  const auto prepare = [this] {
+    OpenFull();
+    ButtonScreen.base.Click();
+    PickButton(1);
+    ChooseOn(ButtonScreen.first, 'A', 1);
+  };
+  prepare();
+  ButtonScreen.leave.Click();
+  expectNothingWritten();
+  prepare();
+  ButtonScreen.leave.Click();
+  ShownAction(Action::SecondFunctionTime).Click();
+  PickButton(1);
+  ChooseOn(ButtonScreen.first, 'A', 1);
+  expectNothingWritten();
+}
+
+TEST_P(ButtonEraseTest, NoPressTimeIsWrittenWhileTheScreenOrThatTimeIsNotShown) {
+  OpenFull();
+  const Snapshot before = TakeSnapshot();
+  const auto choose = [] {
+    ButtonScreen.time.Pick(1);
+    ButtonScreen.time.Type("3");
+  };
+  choose();
+  ButtonScreen.leave.Click();
+  ShownAction(Action::SecondFunctionTime).Click();
+  ButtonScreen.leave.Click();
+  choose();
+  ExpectOnlyChanged(before, {});
+  EXPECT_FALSE(MainWindow.send.enabled);
+}
+
 INSTANTIATE_TEST_SUITE_P(Kinds, ButtonEraseTest, testing::ValuesIn(ButtonKinds),
                          [](const auto& kind) { return "kind" + std::to_string(kind.param); });
 
@@ -227,7 +276,9 @@ TEST_F(MasterBaseFunctionsTest, NoLeavesCorvelaCodes) {
   EXPECT_EQ(MasterBaseDirty, Cell(1));
 }
 
-TEST_F(MasterBaseFunctionsTest, OfARelayModuleHaveASentence) {
+class AssignedBaseFunctionsTest : public ButtonScreenTest {};
+
+TEST_F(AssignedBaseFunctionsTest, OfARelayModuleHaveASentence) {
   Open(0, 1, 'M');
   ButtonScreen.base.Click();
   ButtonScreen.baseYes.Click();
@@ -237,7 +288,7 @@ TEST_F(MasterBaseFunctionsTest, OfARelayModuleHaveASentence) {
   EXPECT_EQ(ButtonScreen.description.caption, "");
 }
 
-TEST_F(MasterBaseFunctionsTest, OfAModuleThatDoesNotToggleHaveNoSentence) {
+TEST_F(AssignedBaseFunctionsTest, OfAModuleThatDoesNotToggleHaveNoSentence) {
   for (const int kind : {5, 7, 8}) {
     Open(kind, 1, 'M');
     ButtonScreen.base.Click();
@@ -248,7 +299,7 @@ TEST_F(MasterBaseFunctionsTest, OfAModuleThatDoesNotToggleHaveNoSentence) {
   }
 }
 
-TEST_F(MasterBaseFunctionsTest, OfAModuleWithoutALetterAreEmpty) {
+TEST_F(AssignedBaseFunctionsTest, OfAModuleWithoutALetterAreEmpty) {
   Open(0);
   ButtonImage[121] = 42;
   ButtonScreen.base.Click();
@@ -259,7 +310,20 @@ TEST_F(MasterBaseFunctionsTest, OfAModuleWithoutALetterAreEmpty) {
   }
 }
 
-TEST_F(MasterBaseFunctionsTest, EscapeMeansNoWhileTheQuestionIsOpen) {
+TEST_F(AssignedBaseFunctionsTest, TheDescriptionFollowsTheSelectedFunction) {
+  Open(0, 1, 'M');
+  ButtonScreen.buttons.Select(3, 1);
+  ButtonScreen.base.Click();
+  ButtonScreen.baseYes.Click();
+  EXPECT_EQ(ButtonScreen.description.caption, "Relaismodule 'M':  Uitgang 03 toggle");
+  ButtonScreen.clearFirst.Set(true);
+  EXPECT_EQ(ButtonScreen.description.caption, "");
+}
+
+/// The frame that asks before they are assigned.
+class BaseQuestionTest : public ButtonScreenTest {};
+
+TEST_F(BaseQuestionTest, EscapeMeansNoWhileTheQuestionIsOpen) {
   Open(0);
   EXPECT_EQ(ButtonScreen.escape, nullptr);
   ButtonScreen.base.Click();
@@ -268,7 +332,7 @@ TEST_F(MasterBaseFunctionsTest, EscapeMeansNoWhileTheQuestionIsOpen) {
   EXPECT_EQ(ButtonScreen.escape, nullptr);
 }
 
-TEST_F(MasterBaseFunctionsTest, EnterMeansYesWhileTheQuestionIsOpenAndStoresOtherwise) {
+TEST_F(BaseQuestionTest, EnterMeansYesWhileTheQuestionIsOpenAndStoresOtherwise) {
   Open(0);
   EXPECT_EQ(ButtonScreen.enter, &ButtonScreen.store);
   for (const ButtonField* answer : {&ButtonScreen.baseYes, &ButtonScreen.baseNo}) {
@@ -283,17 +347,7 @@ TEST_F(MasterBaseFunctionsTest, EnterMeansYesWhileTheQuestionIsOpenAndStoresOthe
   EXPECT_EQ(ButtonScreen.enter, &ButtonScreen.store);
 }
 
-TEST_F(MasterBaseFunctionsTest, TheDescriptionFollowsTheSelectedFunction) {
-  Open(0, 1, 'M');
-  ButtonScreen.buttons.Select(3, 1);
-  ButtonScreen.base.Click();
-  ButtonScreen.baseYes.Click();
-  EXPECT_EQ(ButtonScreen.description.caption, "Relaismodule 'M':  Uitgang 03 toggle");
-  ButtonScreen.clearFirst.Set(true);
-  EXPECT_EQ(ButtonScreen.description.caption, "");
-}
-
-TEST_F(MasterBaseFunctionsTest, TheQuestionIsGoneAfterOpeningAgain) {
+TEST_F(BaseQuestionTest, TheQuestionIsGoneAfterOpeningAgain) {
   Open(0);
   ButtonScreen.base.Click();
   ButtonScreen.leave.Click();

@@ -59,6 +59,7 @@ TEST_P(OutputFunctionsTest, CaptionsAreDutchOrFrench) {
       {&OutputScreen.outputLabel, "Uitgang:", "Sortie:"},
       {&OutputScreen.functionLabel, "Functie:", "Fonction:"},
       {&OutputScreen.linkedLabel, "Uitgang:", "Sortie:"},
+      {&OutputScreen.timeLabel, "Tijd:", "Temps:"},
       {&OutputScreen.confirm, "Bevestigen", "Confirmer"},
       {&OutputScreen.leave, "Verlaten", "Quitter"},
   };

@@ -25,14 +25,20 @@ class StartValuesTest : public SessionTest, public testing::WithParamInterface<i
 TEST_P(StartValuesTest, CaptionsAreDutchOrFrench) {
   Open(1);
   EXPECT_EQ(OutputScreen.startGroup.caption, "Beginwaarde dimmer:");
+  EXPECT_EQ(OutputScreen.startEditGroup.caption, "Beginwaarde wijzigen:");
+  EXPECT_EQ(OutputScreen.channelLabel.caption, "Dim kanaal:");
   EXPECT_EQ(OutputScreen.startLabel.caption, "Beginwaarde:");
   EXPECT_EQ(OutputScreen.confirmStart.caption, "Bevestigen");
+  EXPECT_EQ(OutputScreen.leave.caption, "Verlaten");
   EXPECT_EQ(OutputScreen.startValues.columns[0].caption, "Dim kanaal Nr:");
   EXPECT_EQ(OutputScreen.startValues.columns[1].caption, "Waarde");
   Open(2);
   EXPECT_EQ(OutputScreen.startGroup.caption, "Valeur début dimmer");
+  EXPECT_EQ(OutputScreen.startEditGroup.caption, "Editer la valeur début:");
+  EXPECT_EQ(OutputScreen.channelLabel.caption, "Canal dim:");
   EXPECT_EQ(OutputScreen.startLabel.caption, "Valeur début:");
   EXPECT_EQ(OutputScreen.confirmStart.caption, "Confirmer");
+  EXPECT_EQ(OutputScreen.leave.caption, "Quitter");
   EXPECT_EQ(OutputScreen.startValues.columns[0].caption, "Canal dim Nr:");
   EXPECT_EQ(OutputScreen.startValues.columns[1].caption, "Valeur");
 }

@@ -147,6 +147,22 @@ TEST_F(DiskFilesTest, ADeviceIsRefused) {
   EXPECT_TRUE(fs::is_symlink(Path("a")));
 }
 
+TEST_F(DiskFilesTest, AFileThatIsFarTooLongIsRefusedByItsSize) {
+  files.Write(Path("a"), "");
+  fs::resize_file(Path("a"), 256'000'001);
+  ExpectNotLoaded(Path("a"), "File too large");
+}
+
+/// The system's table of all pages that a program could have tells no size, and is regular.
+TEST_F(DiskFilesTest, AFileWithoutASizeIsNotReadWithoutEnd) {
+  const std::string endless = "/proc/self/pagemap";
+  std::error_code error;
+  if (fs::file_size(endless, error) != 0 || error || !std::ifstream(endless)) {
+    GTEST_SKIP() << "this system has no such file";
+  }
+  ExpectNotLoaded(endless, "File too large");
+}
+
 TEST_F(DiskFilesTest, AFileThatTheUserMayNotReadTellsSo) {
   OpenForAll();
   files.Write(Path("a"), "secret");

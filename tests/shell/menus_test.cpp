@@ -102,9 +102,15 @@ TEST_F(MenusTest, ALanguageChangeInEditModeDropsTheImageWithoutAQuestion) {
   Start(1);
   Plug(0);
   ReadModule();
+  SaveModuleAs("/house", "Relay");
+  MainWindow.general.address.Pick(MainWindow.general.address.Text() == "C" ? 3 : 2);
+  auto expected = files.content;
+  ASSERT_TRUE(expected.contains("/house/Relay.BK1"));
   MainWindow.frans.Click();
   EXPECT_EQ(programs.events.back(), "end");
   EXPECT_TRUE(messages.told.empty());
+  expected[SettingsPath("country.vdm")] = " 2 \r\n";
+  EXPECT_EQ(files.content, expected);
 }
 
 TEST_F(MenusTest, EachPortEntryStoresItsNumberAndIsMarkedAlone) {

@@ -291,6 +291,37 @@ TEST_F(SaveDialogTest, TheTriesEndWhenAnotherDirectoryIsTouched) {
   EXPECT_FALSE(Exists("/house/Attic/Attic"));
 }
 
+TEST_F(SaveDialogTest, TheTriesEndWhenAnotherDriveIsPicked) {
+  ShowDialog();
+  AskForFolder("Attic");
+  SaveDialog.makeFolder.Click();
+  SaveDialog.drives.Pick(2);
+  EXPECT_EQ(SaveDialog.lists.Path(), "/media/stick");
+  const std::size_t tries = directories.tries.size();
+  clock.Advance(1000);
+  EXPECT_EQ(directories.tries.size(), tries);
+  EXPECT_FALSE(Exists("/media/stick/Attic"));
+  // The name stands there still, and can be made here.
+  SaveDialog.makeFolder.Click();
+  EXPECT_TRUE(Exists("/media/stick/Attic"));
+  ExpectNoFolderName();
+}
+
+TEST_F(SaveDialogTest, TheTriesGoOnWhileTheDirectoryStaysTheSame) {
+  ShowDialog();
+  directories.canMake = false;
+  AskForFolder("Garden");
+  SaveDialog.makeFolder.Click();
+  SaveDialog.directories.Pick(1);
+  directories.existing.erase("/media/stick");
+  EXPECT_THROW(SaveDialog.drives.Pick(2), RuntimeError);
+  EXPECT_EQ(SaveDialog.lists.Path(), "/house");
+  directories.canMake = true;
+  clock.Advance(1000);
+  EXPECT_TRUE(Exists("/house/Garden"));
+  ExpectNoFolderName();
+}
+
 TEST_F(SaveDialogTest, EnterMakesTheFolderWhileItsNameIsTypedAndSavesElsewhere) {
   ShowDialog();
   AskForFolder("Garden");

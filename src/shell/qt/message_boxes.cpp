@@ -23,7 +23,7 @@ QWidget* WindowInFront() {
 QMessageBox* ShowBox(QMessageBox::Icon icon, const QString& text, const QString& details) {
   auto* box = new QMessageBox(WindowInFront());
   box->setAttribute(Qt::WA_DeleteOnClose);
-  box->setWindowTitle(ToQt(MainWindow.title));
+  box->setWindowTitle(TitleToQt(MainWindow.title));
   box->setIcon(icon);
   box->setTextFormat(Qt::PlainText);
   box->setText(text);
@@ -41,7 +41,7 @@ void QtMessageBoxes::Tell(const std::string& text) {
 void QtMessageBoxes::Ask(const std::string& title, const std::string& text,
                          std::function<void(bool)> answer) {
   QMessageBox* box = ShowBox(QMessageBox::Warning, ToQt(text));
-  box->setWindowTitle(ToQt(title));
+  box->setWindowTitle(TitleToQt(title));
   box->setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
   QObject::connect(box, &QMessageBox::finished, box,
                    [answer](int button) { RunEvent([&] { answer(button == QMessageBox::Ok); }); });

@@ -41,6 +41,10 @@ bool TakesFocus(const QWidget& widget) {
 
 }  // namespace
 
+QString TitleToQt(std::string_view title) {
+  return ToQt(title).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
+}
+
 const std::vector<ScreenWindow*>& ScreenWindows() {
   return windows;
 }
@@ -125,8 +129,7 @@ void ScreenWindow::PushFields() {
   for (const auto& menu : menus_) menu->Refresh();
   if (title_ != screen_.title) {
     title_ = screen_.title;
-    // In a title "[*]" stands for a mark of Qt's own, unless it is there twice.
-    setWindowTitle(ToQt(title_).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+    setWindowTitle(TitleToQt(title_));
   }
   PushEnter();
   PushCovers();

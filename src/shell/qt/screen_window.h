@@ -7,6 +7,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/field.h"
@@ -88,6 +89,9 @@ class ScreenWindow : public QMainWindow {
   QPointer<QWidget> awaitedFocus_;  ///< had the focus when it was disabled or hidden
   QPointer<QWidget> standIn_;       ///< got the focus then
 };
+
+/// A title as Qt takes it: there "[*]" stands for a mark of its own, unless it is there twice.
+QString TitleToQt(std::string_view title);
 
 /// All windows there are, in the order in which they were made.
 const std::vector<ScreenWindow*>& ScreenWindows();

@@ -4,11 +4,13 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
+#include <QWindow>
 
 #include "link/link_ticks.h"
 #include "link/transfer.h"
 #include "session/language.h"
 #include "shell/main_window.h"
+#include "shell/qt/field_view.h"
 #include "stand_ins.h"
 
 using namespace bkconf;
@@ -105,6 +107,17 @@ class EventGuardTest : public QObject {
     MainWindow.send.enabled = false;
     Fail(ErrorKind::FileNotWritten, "/full");
     QVERIFY(!MainWindow.send.enabled);
+  }
+
+  void ATitleIsShownToTheLetterAlsoWhereQtHasAMarkOfItsOwn() {
+    MainWindow.title = "TREVAN BK-CONF  -  /house/a[*]b.BK1";
+    Messages->Tell("Hallo");
+    QCOMPARE(OpenBoxes().front()->windowHandle()->title(), ToQt(MainWindow.title));
+    CloseBoxes();
+    Messages->Ask("[*]", "?", [](bool) {});
+    QCOMPARE(OpenBoxes().front()->windowHandle()->title(), QStringLiteral("[*]"));
+    CloseBoxes();
+    MainWindow.title = "TREVAN BK-CONF";
   }
 
   void AMessageIsShownWithoutWaitingForTheAnswer() {
