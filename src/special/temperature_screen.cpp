@@ -190,7 +190,9 @@ void LeaveRead() {
   FreeScreen(TextId::EditMode);
 }
 
+/// The bar stays with a read that goes on unseen. One that the module ended short told of no end.
 void Leave() {
+  if (!TransferUnderWay) ReturnBar();
   *Window.title = titleBefore;
   TemperatureScreen.shown = false;
 }
