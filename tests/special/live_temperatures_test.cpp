@@ -227,6 +227,37 @@ TEST_F(LiveTemperaturesTest, BehindAReadThatEndedShortTheNextTransfersShowTheirB
   }
 }
 
+TEST_F(LiveTemperaturesTest, ClosingTheWindowLeavesAModuleThatSaysNoMore) {
+  ReadWith({21, 22, 23, 24, 25, 26, 27, 28});
+  const std::string title = MainWindow.title;
+  Open(Action::LiveTemperatures);
+  AwaitScreen();
+  ASSERT_TRUE(clock.RunUntil([&] { return !Lines()[2].empty(); }, 60'000));
+  line.module = nullptr;
+  clock.Advance(60'000);
+  ASSERT_TRUE(TransferUnderWay);
+  const Snapshot before = TakeSnapshot();
+  TemperatureScreen.Close();
+  ExpectOnlyChanged(before, {});
+  EXPECT_FALSE(TemperatureScreen.shown || TransferUnderWay);
+  EXPECT_EQ(Window.bar, &MainWindow.transferBar);
+  EXPECT_TRUE(MainWindow.connect.enabled && MainWindow.bestand.enabled);
+  EXPECT_EQ(MainWindow.status.caption, "Edit mode");
+  EXPECT_EQ(MainWindow.title, title);
+}
+
+TEST_F(LiveTemperaturesTest, ClosingTheWindowBehindTheLastRoomLeavesNothing) {
+  ReadWith({21, 22, 23, 24, 25, 26, 27, 28});
+  Open(Action::LiveTemperatures);
+  AwaitScreen();
+  ASSERT_TRUE(clock.RunUntil([&] { return !Lines()[7].empty(); }, 60'000));
+  TemperatureScreen.Close();
+  EXPECT_FALSE(TemperatureScreen.shown);
+  EXPECT_TRUE(TransferUnderWay);
+  FinishTransfer();
+  EXPECT_TRUE(MainWindow.bestand.enabled);
+}
+
 TEST_F(LiveTemperaturesTest, ARefusedModuleShowsNoScreen) {
   Read(3);
   Plug(3);
