@@ -122,7 +122,9 @@ void TakeLine() {
   ShowContact(Fields(detector).contact);
   if (!Measures()) return;
   Fields(detector).measured.caption = std::to_string(NumberInLine(5, 9));
-  if (Seen(detector)) return;
+  // Values that were torn on the way would go back to the module with the next update. The next
+  // line of the detector has them again.
+  if (Seen(detector) || !HasDigits(10, 14)) return;
   TakeValues(detector);
   OfferUpdate();
 }

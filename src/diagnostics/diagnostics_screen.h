@@ -11,7 +11,7 @@
 
 namespace bkconf {
 
-/// A panel with a test that is started and, except where it ends by itself, stopped.
+/// A panel with a test that is started and, where the user can stop it, stopped.
 struct TestPanel {
   TestPanel(Screen& screen, const std::string& name);
 

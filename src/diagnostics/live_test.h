@@ -12,13 +12,13 @@ namespace bkconf {
 /// One kind of test.
 struct LiveTest {
   std::string_view command;
-  TextId running;  ///< the status while it runs
-  int steps;       ///< the end of the bar; 0 for a test without one
-  ButtonField* stop;
+  TextId running;      ///< the status while it runs
+  int steps;           ///< the end of the bar; 0 for a test without one
+  ButtonField* stop;   ///< null where the user cannot stop it
   void (*takeLine)();  ///< a line of the module stands in RxLine
   void (
       *accepted)();  ///< the module took the command; null where only the stop button waits for it
-  void (*sendStop)();  ///< tells the module to end; null where it ends by itself
+  void (*sendStop)();  ///< tells the module to end; null where the user cannot stop it
   void (*ended)();     ///< what only a running test lets be used is put back; null where nothing is
 };
 
@@ -29,9 +29,9 @@ inline const LiveTest* RunningTest = nullptr;
 void StartTest(const LiveTest& test);
 /// What a stop button does: tells the module, and ends the test without waiting for an answer.
 void StopRunningTest();
-/// What closing the window does to a test that runs: it is stopped where it can be, and left like a
-/// transfer that cannot go on where the module never answered or ends by itself. Nothing where none
-/// runs.
+/// What closing the window does to a test that runs: it is stopped where its stop button works, and
+/// left like a transfer that cannot go on where the module has not answered yet or the test has no
+/// such button. Nothing where none runs.
 void LeaveRunningTest();
 
 /// Moves the bar of the screen. At its end it begins anew, since some tests have none.

@@ -26,8 +26,7 @@ enum class LinkEvent {
   ContextsRead,  ///< the table is complete and the window is free again
   TimeProgramsRead,
   LightProgramsRead,
-  ModuleListRead,  ///< the master's directory cells stand in ButtonImage
-  ModuleScanEnded,
+  ModuleListRead,   ///< the master's directory cells stand in ButtonImage
   TemperatureRead,  ///< an additional table of the temperature module is complete
   LiveTemperature,  ///< one line of live temperatures stands in RxLine
   DisplayRead,      ///< a display's table of the display module is complete

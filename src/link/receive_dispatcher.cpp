@@ -53,7 +53,7 @@ constexpr auto DispatchRows = std::to_array<DispatchRow>({
     {"STOP", {3}, false, {Read1, Read3}, Outcome::Nothing, std::nullopt},
     {"STOP", TestedModules, false, {TestLine}, Outcome::EndTest, LinkEvent::TestEnded},
     {"STOP", {9}, false, {TestLightSensor}, Outcome::EndTest, LinkEvent::TestEnded},
-    {"STOP", {9}, false, {Test4}, Outcome::EndTest, LinkEvent::ModuleScanEnded},
+    {"STOP", {9}, false, {Test4}, Outcome::EndTest, std::nullopt},
     {"STOP", {9}, false, {Test3}, Outcome::EndTest, LinkEvent::TestEnded},
     // Tests that the tool stops, ended by the module all the same.
     {"STOP", TestedModules, false, {TestButtons, Test3}, Outcome::EndTest, LinkEvent::TestEnded},

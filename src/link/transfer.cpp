@@ -23,6 +23,8 @@ bool GiveFieldsBack() {
 
 bool StartTransfer() {
   StopLink();
+  // A read that ended short of its last cell told no screen to give the bar back.
+  ReturnBar();
   TransferUnderWay = true;
   RxLine.clear();
   Window.enableMenus(false);
@@ -79,8 +81,9 @@ void CloseRead(std::optional<LinkEvent> told) {
 }
 
 void LendBar(ProgressField& bar) {
-  Window.ownBar->visible = false;
-  bar.Start(Window.ownBar->Maximum());
+  const int maximum = Window.bar->Maximum();
+  Window.bar->visible = false;
+  bar.Start(maximum);
   Window.bar = &bar;
 }
 

@@ -67,10 +67,10 @@ void CloseRead(std::optional<LinkEvent> told = std::nullopt);
 /// The end of a live test: the link does nothing more, "Ready", and everything is given back.
 void EndTest();
 
-/// Lets the bar of a screen take the place of the main window's for the read that has begun: it
+/// Lets the bar of a screen take the place of the one that moves, for the read that has begun: it
 /// gets that one's end.
 void LendBar(ProgressField& bar);
-/// Gives the main window its bar back, however the read ended.
+/// Gives the main window its bar back, however the read ended. Every transfer starts with it.
 void ReturnBar();
 
 /// Ends what the link does at the moment, wherever it stands. The window is not touched.

@@ -125,7 +125,8 @@ inline constexpr auto WrittenTables = std::to_array<TableRow>({
 /// The row of that kind and command, or null: the command writes nothing of that kind.
 const WriteRow* FindWriteRow(int kind, std::string_view command);
 
-/// The table that goes out now, or null.
+/// The table that the command and the selector name, or null. Whether the command writes at all is
+/// told by its WriteRow: tables that the selector alone names are found for any command.
 const TableRow* FindWrittenTable(int kind, std::string_view command, int selector);
 
 }  // namespace bkconf

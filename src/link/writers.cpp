@@ -43,10 +43,13 @@ const WriterRow* ActiveWriter() {
   return row == Writers.end() ? nullptr : &*row;
 }
 
+/// Tables that the selector alone names are there for any command, also for one that reads.
 const TableRow& ActiveTable() {
   const std::string command = PendingCommand.Text();
   const TableRow* row = FindWrittenTable(ActiveCode(), command, TableSelector.Whole());
-  if (row == nullptr) throw RuntimeError(ErrorKind::NoTableToWrite, command);
+  if (row == nullptr || FindWriteRow(ActiveCode(), command) == nullptr) {
+    throw RuntimeError(ErrorKind::NoTableToWrite, command);
+  }
   return *row;
 }
 

@@ -377,9 +377,16 @@ void FillButtons() {
   }
 }
 
+/// A read that ended short of its last cell leaves the bar where it stood.
+void HideBar() {
+  ReturnBar();
+  Window.ownBar->visible = false;
+}
+
 /// What the window shows while there is no image.
 void ShowNoModule() {
   HideModulePage();
+  HideBar();
   ShowDataGroup(DataGroup::General);
   ShowFieldsOf(nullptr, Origin::Read);
   ClearModuleFields();
@@ -412,6 +419,7 @@ void ShowTitle(const std::string& path) {
 
 void ShowImage(Origin origin) {
   HideModulePage();
+  HideBar();
   if (const ModuleKind* kind = ActiveKind()) {
     ShowModelOf(*kind);
     ShowGroupOf(*kind, origin);

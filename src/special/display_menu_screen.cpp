@@ -238,8 +238,9 @@ int CodeOf(const ListField& letter) {
   return static_cast<unsigned char>(ToWindows1252(letter.Text()).front());
 }
 
-int IndexOf(const ListField& number) {
-  return LenientNumber(number.Text()) - 1;
+/// With its sign: what `NumberOf` shows of any number goes back as it came.
+Cell IndexOf(const ListField& number) {
+  return Cell(number.Text()).Number() - 1;
 }
 
 /// An automation's outputs are stored by their dialog.

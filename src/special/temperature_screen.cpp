@@ -190,15 +190,18 @@ void LeaveRead() {
   FreeScreen(TextId::EditMode);
 }
 
+/// The bar stays with a read that goes on unseen. One that the module ended short told of no end.
 void Leave() {
+  if (!TransferUnderWay) ReturnBar();
   *Window.title = titleBefore;
   TemperatureScreen.shown = false;
 }
 
-/// By the frame of the window. The button to leave waits for the last cell; a module that says no
-/// more must not keep the user here, so this leaves the transfer, and what has come stays.
+/// By the frame of the window. The button to leave waits for the last cell, or lets the
+/// temperatures come unseen; a module that says no more must not keep the user waiting, so this
+/// leaves the transfer, and what has come stays. Until the last cell the bar is here.
 void Close() {
-  if (!TemperatureScreen.leave.enabled) LeaveTransfer();
+  if (Window.bar == &TemperatureScreen.bar) LeaveTransfer();
   Leave();
 }
 

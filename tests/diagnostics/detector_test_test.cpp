@@ -235,14 +235,30 @@ TEST_F(DetectorTestTest, ALogicThatIsNotListedLeavesItsFieldEmpty) {
   }
 }
 
-TEST_F(DetectorTestTest, DigitsCountUpToTheFirstThatIsNone) {
+TEST_F(DetectorTestTest, DigitsOfTheMeasuredValueCountUpToTheFirstThatIsNone) {
   RunDetectors(65, 12);
-  Tell("M01012x45x7x01");
-  EXPECT_EQ(Shown(2), "Rust|12|>|");
-  EXPECT_EQ(Level(2), Cell(0));
-  Tell("M0010012304xx!");
-  EXPECT_EQ(Shown(1), "TRIGGER!|123|<|4");
-  EXPECT_EQ(Code(1), Cell("x!"));
+  Tell("M01012x4515001");
+  EXPECT_EQ(Shown(2), "Rust|12|>|150");
+  Tell("M010x234515001");
+  EXPECT_EQ(Shown(2), "Rust|0|>|150");
+}
+
+TEST_F(DetectorTestTest, WithATornLevelOrCodeOnlyContactAndMeasuredValueFollow) {
+  for (const char* torn :
+       {"x5001", "1x001", "15x01", "150x1", "1500x", "1501x", "150-1", "150+1", "150 1", "-1501"}) {
+    RunDetectors(65, 1);
+    const Snapshot before = TakeSnapshot();
+    Tell("M00100123" + std::string(torn));
+    EXPECT_EQ(Shown(1), "TRIGGER!|123||") << torn;
+    EXPECT_EQ(DiagnosticsScreen.bar.Value(), 1);
+    EXPECT_FALSE(Row(1).logic.enabled || Row(1).level.enabled || panel.update.enabled);
+    ExpectOnlyChanged(before, {});
+    Tell("M0000012415001");
+    EXPECT_EQ(Shown(1), "Rust|124|>|150") << torn;
+    EXPECT_EQ(Code(1), Cell("01"));
+    EXPECT_TRUE(Row(1).logic.enabled && Row(1).level.enabled && panel.update.enabled);
+    panel.stop.Click();
+  }
 }
 
 TEST_F(DetectorTestTest, ALineWithoutANumberOfADetectorChangesNothing) {

@@ -188,6 +188,20 @@ TEST_F(DetectorUpdateTest, WhatTheModuleToldGoesBackAsItCame) {
   }
 }
 
+TEST_F(DetectorUpdateTest, ATornLineBeforeAGoodOneIsNeverSent) {
+  for (const char* torn : {"1501x", "150-1", "150+1", "1x001"}) {
+    RunDetectors(65, 2);
+    Tell("M00000012" + std::string(torn));
+    Tell("M0100001202621");
+    EXPECT_FALSE(panel.update.enabled) << torn;
+    Tell("M0000001201610");
+    panel.update.Click();
+    clock.Advance(250);
+    EXPECT_EQ(WrittenSince(), announcement + "A0001610\n\rA0102621\n\r") << torn;
+    panel.stop.Click();
+  }
+}
+
 TEST_F(DetectorUpdateTest, EveryLevelOfTheListGoesOutInItsRange) {
   RunSeen(1);
   for (const int level : DetectorLevels()) {

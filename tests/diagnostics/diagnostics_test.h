@@ -60,7 +60,7 @@ struct TestRow {
   int version;
   std::string choice;
   ButtonField* start;
-  ButtonField* stop;  ///< null where it ends by itself
+  ButtonField* stop;  ///< null where the user cannot stop it
   std::string command;
   std::string dutch;  ///< the status while it runs
   std::string french;

@@ -87,7 +87,6 @@ class LiveTests : public DiagnosticsStage, public ::testing::WithParamInterface<
 
 TEST_P(LiveTests, LineIsSampledTenTimesAndTheTestCanBeStopped) {
   ExpectChoicesOfTheKind();
-  ExpectChoicesOfTheKind();
   Choose(texts().line);
   Start(texts().line);
   const std::vector<std::string> lines = AwaitAnswer(samples);

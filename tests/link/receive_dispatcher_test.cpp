@@ -176,8 +176,8 @@ TEST_F(ReceiveDispatcherTest, NoScreenOpensAtTheEndOfAReadThatASendRepeats) {
   }
 }
 
-TEST_F(ReceiveDispatcherTest, TheEndOfTheModuleScanIsReady) {
-  EXPECT_EQ(Dispatch("STOP", 9, "T80400"), FreedWith(LinkEvent::ModuleScanEnded));
+TEST_F(ReceiveDispatcherTest, TheEndOfTheModuleScanIsReadyAndToldToNobody) {
+  EXPECT_EQ(Dispatch("STOP", 9, "T80400"), Freed);
   EXPECT_EQ(MainWindow.status.caption, "Ready");
 }
 

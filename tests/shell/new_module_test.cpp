@@ -7,6 +7,7 @@
 #include "image/tables.h"
 #include "link/link_ticks.h"
 #include "link/transfer.h"
+#include "special/temperature_screen.h"
 #include "support/session_test.h"
 
 namespace bkconf {
@@ -86,6 +87,14 @@ TEST_P(NewModuleTest, LeavesNothingToSaveAndSetsTheTitleBack) {
   EXPECT_EQ(MainWindow.title, "TREVAN BK-CONF");
 }
 
+TEST_P(NewModuleTest, HidesTheBarOfAReadThatEndedShort) {
+  Plug(GetParam(), virtual_module::Fault::ShortStream);
+  ReadModule();
+  ASSERT_TRUE(MainWindow.transferBar.visible);
+  MainWindow.nieuw.Click();
+  EXPECT_FALSE(MainWindow.transferBar.visible);
+}
+
 TEST_P(NewModuleTest, TheNextConnectAcceptsAnyKind) {
   for (const int kind : AllKinds) {
     MainWindow.nieuw.Click();
@@ -103,6 +112,24 @@ TEST_P(NewModuleTest, ASecondTimeChangesNothingMore) {
   MainWindow.nieuw.Click();
   ExpectOnlyChanged(before, {});
   EXPECT_TRUE(MainWindow.general.frame.visible);
+}
+
+class NewBehindAnUnseenReadTest : public SessionTest {};
+
+/// The temperatures are left while they come, and end short of the last room.
+TEST_F(NewBehindAnUnseenReadTest, NewTakesTheBarBack) {
+  Start();
+  Plug(2);
+  ReadModule();
+  Plug(2, virtual_module::Fault::ShortStream);
+  ShownAction(Action::LiveTemperatures).Click();
+  ASSERT_TRUE(clock.RunUntil([] { return TemperatureScreen.shown; }, 60'000));
+  TemperatureScreen.leave.Click();
+  FinishTransfer();
+  ASSERT_EQ(Window.bar, &TemperatureScreen.bar);
+  MainWindow.nieuw.Click();
+  EXPECT_EQ(Window.bar, &MainWindow.transferBar);
+  EXPECT_FALSE(MainWindow.transferBar.visible || TemperatureScreen.bar.visible);
 }
 
 /// A display's table frees the window at its last cell, while the module's last line is on its way.

@@ -123,6 +123,16 @@ TEST_P(OpenKindTest, OpenedOverAReadModuleOfAnotherKindTheNextConnectRefusesTheO
   }
 }
 
+TEST_P(OpenKindTest, HidesTheBarOfAReadThatEndedShort) {
+  Start();
+  Plug(kind, virtual_module::Fault::ShortStream);
+  ReadModule();
+  ASSERT_TRUE(MainWindow.transferBar.visible);
+  Open(FileOf(kind));
+  EXPECT_FALSE(MainWindow.transferBar.visible);
+  EXPECT_EQ(MainWindow.status.caption, "Edit mode");
+}
+
 TEST_P(OpenKindTest, AFileThatIsTooShortIsToldWithPathAndLineAndChangesNothing) {
   for (const int language : {1, 2}) {
     Start(language);

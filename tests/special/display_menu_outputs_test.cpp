@@ -134,6 +134,24 @@ TEST_F(DisplayOutputsTest, NoughtsAreShownAndStoredBackAsTheyAre) {
   ExpectOnlyChanged(before, {});
 }
 
+TEST_F(DisplayOutputsTest, OutputsBelowTheFirstAreShownAndStoredBackAsTheyAre) {
+  for (const int output : {-1, -2, -5, -1000}) {
+    OpenAutomations();
+    for (const int cell : {781, 841, 961}) LcdScreen1[cell] = output;
+    PressOutputs(0);
+    const std::string shown = std::to_string(output + 1);
+    EXPECT_EQ(Shown(), (Texts{"A", shown, "B", shown}));
+    const Snapshot before = TakeSnapshot();
+    Ok();
+    ExpectOnlyChanged(before, {});
+    // The first screen has one output a line, and no dialog.
+    PickScreen(0);
+    EXPECT_EQ(Line(0).output.Text(), shown);
+    Leave();
+    ExpectOnlyChanged(before, {});
+  }
+}
+
 TEST_F(DisplayOutputsTest, CharactersOfTheCellsAreShownWhateverTheyAre) {
   OpenAutomations();
   LcdScreen1[840] = 35;

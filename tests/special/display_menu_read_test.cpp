@@ -355,6 +355,25 @@ TEST_F(DisplayReadTest, AStreamThatStopsShortKeepsTheScreenUnusable) {
   EXPECT_TRUE(TransferUnderWay);
 }
 
+TEST_F(DisplayReadTest, AStreamThatStoppedShortIsClosedAndTheNextComesWhole) {
+  Connect();
+  Plug(3, Fault::ShortStream);
+  Press(1);
+  ASSERT_TRUE(RunUntilShown());
+  clock.Advance(60'000);
+  DisplayMenuScreen.Close();
+  EXPECT_EQ(Window.bar, &MainWindow.transferBar);
+  EXPECT_FALSE(DisplayMenuScreen.shown || DisplayMenuScreen.bar.visible);
+  Plug(ModuleOptions());
+  MainWindow.connect.Click();
+  EXPECT_TRUE(MainWindow.transferBar.visible);
+  FinishTransfer();
+  ReadDisplay(1);
+  EXPECT_EQ(DisplayMenuScreen.bar.Maximum(), 1020);
+  EXPECT_EQ(DisplayMenuScreen.bar.Value(), 1020);
+  ExpectUsable(true);
+}
+
 TEST_F(DisplayReadTest, AReadThatFailsGivesTheScreenFreeWithWhatHasCome) {
   for (const Fault fault : {Fault::IndexBeyondTable, Fault::TooManyLines}) {
     ActiveModuleType = NoModule;

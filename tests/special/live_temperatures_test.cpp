@@ -10,6 +10,7 @@ namespace bkconf {
 namespace {
 
 using Texts = std::vector<std::string>;
+using virtual_module::Fault;
 
 /// The look with the temperatures of this moment.
 class LiveTemperaturesTest : public TemperatureScreenTest {
@@ -23,6 +24,14 @@ class LiveTemperaturesTest : public TemperatureScreenTest {
   }
   static void Report(virtual_module::Module& module, const std::vector<int>& values) {
     std::copy(values.begin(), values.end(), module.memory().Cells("TempRoomIds").begin() + 64);
+  }
+  /// Reads a module whose temperatures end before the last room, up to the moment at which the
+  /// screen shows itself.
+  void BeginShortRead() {
+    Read(8);
+    Plug(2, Fault::ShortStream);
+    Open(Action::LiveTemperatures);
+    AwaitScreen();
   }
   static Texts Lines() {
     Texts lines;
@@ -181,6 +190,72 @@ TEST_F(LiveTemperaturesTest, TheWayOutStaysOpenAndWhatComesLaterShowsNoScreen) {
   EXPECT_FALSE(TemperatureScreen.bar.visible);
   EXPECT_EQ(Window.bar, &MainWindow.transferBar);
   EXPECT_TRUE(MainWindow.connect.enabled && MainWindow.bestand.enabled);
+}
+
+TEST_F(LiveTemperaturesTest, LeavingBehindAReadThatEndedShortGivesTheBarBack) {
+  BeginShortRead();
+  FinishTransfer();
+  ASSERT_EQ(Window.bar, &TemperatureScreen.bar);
+  TemperatureScreen.leave.Click();
+  EXPECT_FALSE(TemperatureScreen.shown || TemperatureScreen.bar.visible);
+  EXPECT_EQ(Window.bar, &MainWindow.transferBar);
+}
+
+TEST_F(LiveTemperaturesTest, BehindAReadThatEndedShortTheNextTransfersShowTheirBars) {
+  for (const bool leftBefore : {false, true}) {
+    ActiveModuleType = NoModule;
+    BeginShortRead();
+    if (!leftBefore) FinishTransfer();
+    TemperatureScreen.leave.Click();
+    FinishTransfer();
+    const auto& module = Plug(2);
+    MainWindow.connect.Click();
+    EXPECT_TRUE(MainWindow.transferBar.visible);
+    EXPECT_EQ(MainWindow.transferBar.Maximum(), 20'000);
+    FinishTransfer();
+    Open(Action::RoomIds);
+    AwaitScreen();
+    EXPECT_EQ(TemperatureScreen.bar.Maximum(), 146);
+    FinishTransfer();
+    EXPECT_EQ(TemperatureScreen.bar.Value(), 146);
+    EXPECT_TRUE(TemperatureScreen.leave.enabled);
+    for (int cell = 0; cell < 82; ++cell) {
+      const auto place = static_cast<std::size_t>(cell);
+      EXPECT_EQ(TempTail[cell], Cell(module.memory().Cells("TempTail")[place])) << cell;
+    }
+    TemperatureScreen.leave.Click();
+  }
+}
+
+TEST_F(LiveTemperaturesTest, ClosingTheWindowLeavesAModuleThatSaysNoMore) {
+  ReadWith({21, 22, 23, 24, 25, 26, 27, 28});
+  const std::string title = MainWindow.title;
+  Open(Action::LiveTemperatures);
+  AwaitScreen();
+  ASSERT_TRUE(clock.RunUntil([&] { return !Lines()[2].empty(); }, 60'000));
+  line.module = nullptr;
+  clock.Advance(60'000);
+  ASSERT_TRUE(TransferUnderWay);
+  const Snapshot before = TakeSnapshot();
+  TemperatureScreen.Close();
+  ExpectOnlyChanged(before, {});
+  EXPECT_FALSE(TemperatureScreen.shown || TransferUnderWay);
+  EXPECT_EQ(Window.bar, &MainWindow.transferBar);
+  EXPECT_TRUE(MainWindow.connect.enabled && MainWindow.bestand.enabled);
+  EXPECT_EQ(MainWindow.status.caption, "Edit mode");
+  EXPECT_EQ(MainWindow.title, title);
+}
+
+TEST_F(LiveTemperaturesTest, ClosingTheWindowBehindTheLastRoomLeavesNothing) {
+  ReadWith({21, 22, 23, 24, 25, 26, 27, 28});
+  Open(Action::LiveTemperatures);
+  AwaitScreen();
+  ASSERT_TRUE(clock.RunUntil([&] { return !Lines()[7].empty(); }, 60'000));
+  TemperatureScreen.Close();
+  EXPECT_FALSE(TemperatureScreen.shown);
+  EXPECT_TRUE(TransferUnderWay);
+  FinishTransfer();
+  EXPECT_TRUE(MainWindow.bestand.enabled);
 }
 
 TEST_F(LiveTemperaturesTest, ARefusedModuleShowsNoScreen) {

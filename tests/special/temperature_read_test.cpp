@@ -8,6 +8,7 @@
 namespace bkconf {
 namespace {
 
+using virtual_module::Fault;
 using virtual_module::UnitKind;
 
 struct ReadCase {
@@ -254,6 +255,27 @@ TEST_P(TemperatureReadTest, ClosingTheWindowLeavesAModuleThatSaysNoMore) {
   EXPECT_FALSE(WindowIsLocked());
   EXPECT_EQ(MainWindow.status.caption, "Edit mode");
   EXPECT_EQ(*GetParam().loaded, Cell(1));
+}
+
+TEST_P(TemperatureReadTest, AReadThatEndedShortIsClosedAndTheNextComesWhole) {
+  Read(3);
+  Plug(2, Fault::ShortStream);
+  Open(GetParam().look);
+  FinishTransfer();
+  ASSERT_TRUE(TemperatureScreen.shown);
+  EXPECT_FALSE(TemperatureScreen.leave.enabled);
+  TemperatureScreen.Close();
+  EXPECT_EQ(Window.bar, &MainWindow.transferBar);
+  EXPECT_FALSE(TemperatureScreen.shown || TemperatureScreen.bar.visible);
+  Plug(2);
+  MainWindow.connect.Click();
+  EXPECT_TRUE(MainWindow.transferBar.visible);
+  FinishTransfer();
+  Open(GetParam().look);
+  FinishTransfer();
+  EXPECT_EQ(TemperatureScreen.bar.Maximum(), GetParam().lines);
+  EXPECT_EQ(TemperatureScreen.bar.Value(), GetParam().lines);
+  EXPECT_TRUE(TemperatureScreen.leave.enabled);
 }
 
 TEST_P(TemperatureReadTest, APortThatCannotBeOpenedShowsNoScreen) {

@@ -213,6 +213,26 @@ TEST_F(WeekdayReadTest, ClosingTheWindowLeavesAModuleThatSaysNoMoreAndStoresNoth
   EXPECT_EQ(MainWindow.status.caption, "Edit mode");
 }
 
+TEST_F(WeekdayReadTest, AReadThatEndedShortIsClosedAndTheNextTransfersShowTheirBars) {
+  Connect();
+  Plug(3, virtual_module::Fault::ShortStream);
+  Press();
+  FinishTransfer();
+  ASSERT_TRUE(WeekdayTextScreen.shown);
+  EXPECT_FALSE(IsUsable());
+  WeekdayTextScreen.Close();
+  EXPECT_EQ(Window.bar, &MainWindow.transferBar);
+  EXPECT_FALSE(WeekdayTextScreen.shown || WeekdayTextScreen.bar.visible);
+  Plug(3);
+  MainWindow.connect.Click();
+  EXPECT_TRUE(MainWindow.transferBar.visible);
+  FinishTransfer();
+  ShownAction(Action::Display1).Click();
+  FinishTransfer();
+  EXPECT_EQ(DisplayMenuScreen.bar.Maximum(), 1020);
+  EXPECT_EQ(DisplayMenuScreen.bar.Value(), 1020);
+}
+
 TEST_F(WeekdayReadTest, LeavingAtOnceKeepsWhatWasReadAndTheNextOpeningReadsNothing) {
   const auto& module = Connect();
   Press();

@@ -17,6 +17,7 @@ constexpr int CaptionGap = 8;
 
 void OptionButton::Hold(QWidget& held) {
   held_ = &held;
+  setText(text().trimmed());
   const QStyle* look = style();
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(look->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr, this) +
@@ -79,7 +80,8 @@ void OptionView::Push() {
   }
   if (caption_ == field_.caption) return;
   caption_ = field_.caption;
-  button_->setText(ToQt(caption_).trimmed());
+  const QString text = ToQt(caption_);
+  button_->setText(button_->Holds() ? text.trimmed() : text);
 }
 
 }  // namespace bkconf

@@ -17,6 +17,7 @@ class OptionButton : public QRadioButton {
 
   /// Takes the widget in between the mark and the caption; it belongs to this one from now on.
   void Hold(QWidget& held);
+  bool Holds() const { return held_ != nullptr; }
 
   QSize sizeHint() const override;
 

@@ -18,6 +18,7 @@ struct SampleScreen : Screen {
     check.caption = "None";
     first.caption = "              °C in room:";
     second.caption = "Base in room:";
+    other.caption = "     Bus:";
     degrees.items = {"0", "1", "2"};
     check.onChange = [this] { events.append(QStringLiteral("check")); };
     first.onChoose = [this] { events.append(QStringLiteral("first")); };
@@ -143,6 +144,16 @@ class ChoiceViewsTest : public QObject {
     const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(Option("first"));
     QCOMPARE(spoken->role(), QAccessible::RadioButton);
     QCOMPARE(spoken->text(QAccessible::Name), QStringLiteral("°C in room:"));
+  }
+
+  void ACaptionThatHoldsNothingKeepsItsBlanks() {
+    QCOMPARE(Option("other")->text(), QStringLiteral("     Bus:"));
+    QCOMPARE(Option("other")->accessibleName(), QStringLiteral("Bus:"));
+    screen_->other.caption = "  Module:";
+    screen_->first.caption = "    degrees";
+    window_->Refresh();
+    QCOMPARE(Option("other")->text(), QStringLiteral("  Module:"));
+    QCOMPARE(Option("first")->text(), QStringLiteral("degrees"));
   }
 
   void AListInsideAChoiceHasItsRoomBetweenMarkAndCaption() {
