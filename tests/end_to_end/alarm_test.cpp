@@ -15,99 +15,13 @@
 #include "end_to_end/file_stage.h"
 #include "end_to_end/grid.h"
 #include "end_to_end/image_lines.h"
+#include "end_to_end/special_captions.h"
 
 namespace end_to_end {
 namespace {
 
 constexpr const char* demoFile = "Alarm G.BK1";
 constexpr int detectorCount = 12;
-
-struct AlarmCaptions {
-  const Captions* captions;
-  const char* title;
-  const char* detectors;
-  const char* detector;  // in front of its number
-  const char* noneChosen;
-  const char* inService;
-  const char* outOfService;
-  const char* settings;
-  const char* noCondition;
-  const char* light;
-  const char* none;
-  const char* level;
-  const char* time;
-  const char* from;
-  const char* to;
-  const char* both;
-  const char* either;
-  const char* atOnce;
-  const char* delay;
-  const char* edit;
-  const char* noAction;
-  const char* typeAsked;
-  const char* relayType;
-  const char* output;
-  const char* on;
-  const char* context;
-};
-
-void PrintTo(const AlarmCaptions& each, std::ostream* out) {
-  *out << each.captions->languageName;
-}
-
-const AlarmCaptions dutchAlarm = {.captions = &dutch,
-                                  .title = "Alarmmodule KR7160 <adres = G>",
-                                  .detectors = "Detectoren",
-                                  .detector = "Detector ",
-                                  .noneChosen = "Detector ?",
-                                  .inService = "Detector ACTIEF!",
-                                  .outOfService = "BUITEN DIENST!",
-                                  .settings = "Instellingen:",
-                                  .noCondition = "Geen conditie",
-                                  .light = "Licht:",
-                                  .none = "Geen",
-                                  .level = "Donkerder dan:",
-                                  .time = "Tijd:",
-                                  .from = "Van uur",
-                                  .to = "Tot uur",
-                                  .both = "EN",
-                                  .either = "OF",
-                                  .atOnce = "Onmiddellijke actie",
-                                  .delay = "Na een vertraging van",
-                                  .edit = "Editeren:",
-                                  .noAction = "Geen actie",
-                                  .typeAsked = "Module type?",
-                                  .relayType = "Relaismodule",
-                                  .output = "Uitgang:",
-                                  .on = "Aan",
-                                  .context = "Sfeer"};
-
-const AlarmCaptions frenchAlarm = {.captions = &french,
-                                   .title = "Module alarme KR7160 <adresse = G>",
-                                   .detectors = "Détecteurs",
-                                   .detector = "Détecteur ",
-                                   .noneChosen = "Détecteur ?",
-                                   .inService = "en service",
-                                   .outOfService = "hors service",
-                                   .settings = "Modifications:",
-                                   .noCondition = "Sans condition",
-                                   .light = "Lumière:",
-                                   .none = "Pas",
-                                   .level = "Luminosité",
-                                   .time = "Temps:",
-                                   .from = "De Hre",
-                                   .to = "A Hre",
-                                   .both = "ET",
-                                   .either = "OU",
-                                   .atOnce = "Action directe",
-                                   .delay = "Après un delai de",
-                                   .edit = "Editer:",
-                                   .noAction = "Pas d'action",
-                                   .typeAsked = "Type module?",
-                                   .relayType = "Module relais",
-                                   .output = "Sortie:",
-                                   .on = "ON",
-                                   .context = "Contexte"};
 
 // Cells of a detector, from 0 on.
 int DelayCell(int detector) {

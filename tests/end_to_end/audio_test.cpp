@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "end_to_end/deadline.h"
+#include "end_to_end/special_captions.h"
 #include "end_to_end/special_stage.h"
 
 namespace end_to_end {
@@ -20,38 +21,6 @@ const Writing allBlocks = {.command = "T70000",
                            .runs = {{0, 122, 3}, {124, 180, 3}, {181, 196, 3}, {197, 212, 3}},
                            .tick = std::chrono::milliseconds(20),
                            .pause = std::chrono::seconds(1)};
-
-struct AudioCaptions {
-  const char* title;
-  const char* general;
-  const char* zones;
-  const char* sources;
-  const char* settings;
-  const char* main;
-  const char* source;
-  const char* volume;
-  const char* secondary;
-};
-
-constexpr AudioCaptions inDutch = {.title = "Audio interface KR7920 <adres = H>",
-                                   .general = "Algemeen:",
-                                   .zones = "Aantal zone's",
-                                   .sources = "Aantal bronnen",
-                                   .settings = "Instellingen:",
-                                   .main = "Hoofdzone",
-                                   .source = "Default bron",
-                                   .volume = "Default volume",
-                                   .secondary = "Nevenzone"};
-
-constexpr AudioCaptions inFrench = {.title = "Interface audio KR7920 <adresse = H>",
-                                    .general = "Général:",
-                                    .zones = "Nombre de zone",
-                                    .sources = "Nombre de sources",
-                                    .settings = "Instellen:",
-                                    .main = "Zone principale",
-                                    .source = "Source default",
-                                    .volume = "Volume default",
-                                    .secondary = "Zone secondaire"};
 
 // What the screen shows of a zone.
 struct Zone {
@@ -103,7 +72,7 @@ class Audio : public SpecialStage {
 
 class AudioInDutch : public Audio {
  protected:
-  AudioInDutch() : Audio(inDutch) {}
+  AudioInDutch() : Audio(dutchAudio) {}
 
   void OpenAudio() { OpenScreen("Audio instellingen", texts().title); }
   // The second zone is heard beside the first.
@@ -204,7 +173,7 @@ TEST_F(AudioInDutch, SurroundTakesThreeZonesInTheModuleAndInTheFile) {
 
 class AudioInFrench : public Audio {
  protected:
-  AudioInFrench() : Audio(inFrench) {}
+  AudioInFrench() : Audio(frenchAudio) {}
 
   // An interface that nobody has set yet.
   static std::map<int, int> NeverSet() {

@@ -50,6 +50,22 @@ struct Captions {
   const char* clearSecond;
   const char* baseFunctions;
   const char* baseQuestion;
+  const char* secondTime;       // the button of the main window
+  const char* secondTimeLabel;  // in front of the list of its screen
+  const char* context;
+
+  // The outputs
+  const char* outputFunctions;  // the buttons of the main window
+  const char* startValues;
+  const char* editOutput;
+  const char* output;
+  const char* function;
+  const char* functionColumn;
+  const char* pulse;
+  const char* time;
+  const char* editStart;
+  const char* channel;
+  const char* startValue;
 
   // Errors
   const char* fileTooShort;
@@ -92,6 +108,20 @@ inline constexpr Captions dutch = {.language = 1,
                                    .clearSecond = "Wissen van alle 2de functies!",
                                    .baseFunctions = "Basisfuncties",
                                    .baseQuestion = "Basisfuncties aan drukknoppen toekennen?",
+                                   .secondTime = "Tijd 2de functie",
+                                   .secondTimeLabel = "Tijd 2de functie:",
+                                   .context = "Sfeer:",
+                                   .outputFunctions = "Functie van de uitgangen",
+                                   .startValues = "Beginwaarde dim-kanalen",
+                                   .editOutput = "Functie van uitgang wijzigen:",
+                                   .output = "Uitgang:",
+                                   .function = "Functie:",
+                                   .functionColumn = "Functie",
+                                   .pulse = "Puls",
+                                   .time = "Tijd:",
+                                   .editStart = "Beginwaarde wijzigen:",
+                                   .channel = "Dim kanaal:",
+                                   .startValue = "Beginwaarde:",
                                    .fileTooShort = "Het bestand is te kort voor deze module.",
                                    .place = "Plaats: ",
                                    .line = "regel "};
@@ -131,6 +161,20 @@ inline constexpr Captions french = {.language = 2,
                                     .clearSecond = "Effacer tous les 2ème fonctions!",
                                     .baseFunctions = "Fonctions de base",
                                     .baseQuestion = "Fonctions de base aux boutons poussoirs?",
+                                    .secondTime = "Temps 2ème fonction",
+                                    .secondTimeLabel = "Temps 2ème fonction:",
+                                    .context = "Contexte:",
+                                    .outputFunctions = "Fonction des sorties",
+                                    .startValues = "Valeur début des sorties",
+                                    .editOutput = "Editer la fonction de la sortie:",
+                                    .output = "Sortie:",
+                                    .function = "Fonction:",
+                                    .functionColumn = "Fonction",
+                                    .pulse = "Impulsion",
+                                    .time = "Temps:",
+                                    .editStart = "Editer la valeur début:",
+                                    .channel = "Canal dim:",
+                                    .startValue = "Valeur début:",
                                     .fileTooShort = "Le fichier est trop court pour ce module.",
                                     .place = "Endroit : ",
                                     .line = "ligne "};

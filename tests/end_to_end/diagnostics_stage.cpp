@@ -24,7 +24,7 @@ bool OpensConversation(const LogUnit& unit) {
 
 void DiagnosticsStage::OpenDiagnostics(const ButtonModule& module, const std::map<int, int>& cells,
                                        const std::vector<std::string>& options) {
-  module_ = &module;
+  UseModule(module);
   LayOutDirectory(*module.captions);
   const std::filesystem::path image = scratch() / "start.BK1";
   std::ofstream(image, std::ios::binary)
@@ -34,6 +34,10 @@ void DiagnosticsStage::OpenDiagnostics(const ButtonModule& module, const std::ma
   StartModule(module.kind, words);
   StartTool();
   ConnectAndRead();
+  OpenTests();
+}
+
+void DiagnosticsStage::OpenTests() {
   ClickOn("push button", captions().diagnostics);
   AwaitWindow(title());
 }

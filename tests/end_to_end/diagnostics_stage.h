@@ -19,12 +19,15 @@ inline constexpr ButtonModule alarmInFrench = {&french, 5, "AlarmInFrench", "Ala
 inline constexpr ButtonModule masterInFrench = {&french, 9, "MasterInFrench", "Master.BK1",
                                                 "Module master KR7110"};
 
-class DiagnosticsStage : public Stage {
+class DiagnosticsStage : public virtual Stage {
  protected:
   // Starts the module with its file of the demo house, other numbers in some cells, and the tool;
   // reads the module and opens the screen.
   void OpenDiagnostics(const ButtonModule& module, const std::map<int, int>& cells = {},
                        const std::vector<std::string>& options = {});
+  // The same in pieces: which module it is, and the screen alone.
+  void UseModule(const ButtonModule& module) { module_ = &module; }
+  void OpenTests();
   const DiagnosticsCaptions& texts() const;
   std::string title() const { return module_->screen; }
 

@@ -2,25 +2,13 @@
 // are seen, changed, sent and kept in a file.
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <set>
+#include <filesystem>
 #include <string>
-#include <string_view>
-#include <vector>
 
-#include "end_to_end/deadline.h"
-#include "end_to_end/table_stage.h"
+#include "end_to_end/display_stage.h"
 
 namespace end_to_end {
 namespace {
-
-constexpr int kind = 3;
-constexpr const char* demoFile = "LCD F.BK1";
-
-// The first cell of each table in the file; the header begins with cell 0.
-constexpr int display1 = 2;
-constexpr int display2 = 1032;
-constexpr int weekdays = 2062;
 
 constexpr std::chrono::milliseconds tick(30);
 constexpr std::chrono::milliseconds blockPause(1000);
@@ -36,101 +24,9 @@ const Writing display2Writing = {
     blockPause};
 const Writing weekdayWriting = {"T75000", {{2062, 2082, 3}}, tick, blockPause};
 
-struct DisplayCaptions {
-  const char* module;  // the title of all three screens, up to what is different in each
-  const char* display1;
-  const char* display2;
-  const char* weekdays;
-  const char* screen;  // in front of its number
-  const char* frame;
-  const char* name;
-  const char* category;
-  const char* output;   // in front of the list of a line
-  const char* outputs;  // the button of a line, and the dialog that it opens
-  const char* dialog;
-  const char* open;
-  const char* close;
-};
-
-const DisplayCaptions dutchTexts = {.module = "Displaymodule KR7210 <adres = F>  -  ",
-                                    .display1 = "Configuratie Display Nr1",
-                                    .display2 = "Configuratie Display Nr2",
-                                    .weekdays = "Omschrijving weekdag",
-                                    .screen = "Scherm ",
-                                    .frame = "Hoofdscherm:",
-                                    .name = "Omschrijving",
-                                    .category = "Type scherm",
-                                    .output = "Uitgang:",
-                                    .outputs = "Uitgangen",
-                                    .dialog = "Uitgangen automatisatie:",
-                                    .open = "OP/OPEN",
-                                    .close = "NEER/DICHT"};
-
-const DisplayCaptions frenchTexts = {.module = "Module display KR7210 <adresse = F>  -  ",
-                                     .display1 = "Configuration Display Nr1",
-                                     .display2 = "Configuration Display Nr2",
-                                     .weekdays = "Description jour de semaine",
-                                     .screen = "Ecran ",
-                                     .frame = "Ecran principale:",
-                                     .name = "Description",
-                                     .category = "Type écran",
-                                     .output = "Sortie:",
-                                     .outputs = "Sorties",
-                                     .dialog = "Sortie automatisation:",
-                                     .open = "LEVE/OUVERT",
-                                     .close = "BAISSE/FERMER"};
-
-class DisplayScreens : public TableStage {
- protected:
-  const DisplayCaptions& texts() const {
-    return captions().language == dutch.language ? dutchTexts : frenchTexts;
-  }
-  std::string Title(const char* screen) const { return std::string(texts().module) + screen; }
-  ListPlace Category() const { return {texts().category, texts().frame}; }
-  // Of a line, by its number.
-  ListPlace Module(const std::string& line) {
-    return {Label(captions().address + (" " + line)), texts().frame};
-  }
-  ListPlace Output(const std::string& line) {
-    return {Label(texts().output + (" " + line)), texts().frame};
-  }
-  ListPlace Dialog(const char* row, int number) const { return {row, texts().dialog, number}; }
-
-  // A screen is there once its name stands in its field.
-  void PickScreen(int number, std::string_view name) {
-    ClickOn("list item", texts().screen + std::to_string(number));
-    AwaitContent(texts().name, name);
-  }
-  // The button of that line, from 1 on.
-  Widget OutputsButton(int line) {
-    std::vector<Widget> buttons;
-    const bool enabled = WaitFor([&] {
-      buttons.clear();
-      for (const Widget& each : desktop().Widgets()) {
-        const bool is = each.role == "push button" && each.name == texts().outputs;
-        if (is && each.enabled) buttons.push_back(each);
-      }
-      return buttons.size() == 10;
-    });
-    EXPECT_TRUE(enabled) << buttons.size() << " buttons of lines can be used";
-    std::sort(buttons.begin(), buttons.end(),
-              [](const Widget& one, const Widget& other) { return one.y < other.y; });
-    return buttons.at(static_cast<std::size_t>(line) - 1);
-  }
-  void AwaitOutputs(const std::string& line, const char* module, const char* output) {
-    AwaitListText(Module(line), module);
-    AwaitListText(Output(line), output);
-  }
-
- private:
-  std::string_view Label(const std::string& text) { return *labels_.insert(text).first; }
-
-  std::set<std::string> labels_;  // which places of lists refer to
-};
-
 // --- One display --------------------------------------------------------------------------------
 
-class OneDisplay : public DisplayScreens {
+class OneDisplay : public DisplayStage {
  protected:
   void ChangeLineByMouse() {
     PickScreen(1, "Woonkamer   ");
@@ -160,20 +56,6 @@ class OneDisplay : public DisplayScreens {
     PutCells(display1 + 753, {' ', 126, 'A', 'c', 't', ' ', ' ', ' ', 127, ' ', ' ', ' ', ' '});
     PutCells(display1 + 860, {'S', 49, '#', 0, '#', 0});
   }
-  void ComposeOutputsByMouse() {
-    PickScreen(4, "Rolluiken   ");
-    desktop().Click(OutputsButton(4));
-    Await("panel", texts().dialog);
-    PickItem(Dialog(texts().open, 1), 1, "B");
-    PickItem(Dialog(texts().open, 2), 8, "9");
-    PickItem(Dialog(texts().close, 1), 1, "B");
-    PickItem(Dialog(texts().close, 2), 9, "10");
-    ClickOn("push button", "OK");
-    AwaitGone("panel", texts().dialog);
-    AwaitOutputs("4", "B", "9");
-    PutCells(display1 + 846, {'B', 8});
-    PutCells(display1 + 966, {'B', 9});
-  }
   // One name too long and one too short.
   void ChangeWeekdays() {
     AwaitContent("Zondag", "Zo ");
@@ -185,7 +67,7 @@ class OneDisplay : public DisplayScreens {
 };
 
 TEST_F(OneDisplay, IsSentAndTheWeekdaysBehindIt) {
-  StartWithDemo(kind, demoFile, dutch);
+  StartWithDemo(displayKind, displayFile, dutch);
   ConnectAndRead();
   OpenAndRead("LCD Scherm N°1", Title(texts().display1), "T81000");
   ChangeLineByMouse();
@@ -218,7 +100,7 @@ TEST_F(OneDisplay, IsSentAndTheWeekdaysBehindIt) {
 
 // --- Both displays ------------------------------------------------------------------------------
 
-class BothDisplays : public DisplayScreens {
+class BothDisplays : public DisplayStage {
  protected:
   // On the second screen lights become sockets.
   void ChangeCategoryByKeyboard() {
@@ -255,7 +137,7 @@ class BothDisplays : public DisplayScreens {
 };
 
 TEST_F(BothDisplays, AreKeptInAFileAndSentFromItAsAWhole) {
-  StartWithDemo(kind, demoFile, french);
+  StartWithDemo(displayKind, displayFile, french);
   ConnectAndRead();
   // Behind a read the caption of the second display is the same in both languages.
   OpenAndRead("LCD Scherm N°2", Title(texts().display2), "T83000");

@@ -3,23 +3,39 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "end_to_end/deadline.h"
-#include "end_to_end/stage.h"
+#include "end_to_end/file_stage.h"
+#include "end_to_end/image_lines.h"
 
 namespace end_to_end {
 namespace {
 
 const std::string wrongModule = "De gevonden module is niet van het juiste type !";
+const std::string noSuchCell = "De module stuurde een cel die niet bestaat in de tabel.";
+const std::string tooMuch = "De module stuurde meer gegevens dan verwacht.";
 const std::string portFailed = "De verbinding met de seriële poort is verbroken.";
 
-class ToolWithFault : public Stage {
+// Of the relay module, which some of the faults are done with.
+constexpr const char* demoFile = "Relais A.BK1";
+
+class ToolWithFault : public FileStage {
  protected:
-  void Connect(int kind, const std::string& fault) {
+  void StartWithFault(int kind, const std::string& fault) {
     LayOutDirectory();
-    StartModule(kind, {"--fault", fault});
+    const std::string file = kind == 0 ? demoFile : "Alarm G.BK1";
+    StartModule(kind, {"--fault", fault, "--image", DemoFile(file).string()});
     StartTool();
+  }
+  void Connect(int kind, const std::string& fault) {
+    StartWithFault(kind, fault);
     ClickOn("push button", "Verbinden");
+  }
+  static std::vector<std::string> DemoLines() { return LinesOf(ContentOf(DemoFile(demoFile))); }
+  // What the tool holds.
+  void ExpectImage(const std::vector<std::string>& lines) {
+    EXPECT_EQ(Differences(LinesOf(ContentOf(SaveAs("Image"))), lines), std::vector<std::string>());
   }
 
   void ExpectIdle() {
@@ -72,6 +88,97 @@ TEST_F(ToolWithFault, ModuleSilentAfterTheCommandLeavesAWindowThatRepaints) {
   AwaitText("Inladen van de gegevens...");
   ExpectTransferUnderWay();
   ExpectWindowRepaints();
+  CloseTool();
+}
+
+TEST_F(ToolWithFault, ModuleSilentAfterItsIdentityLeavesAWindowThatRepaints) {
+  Connect(0, "silent-after-identity");
+  AwaitOnLine(false, "DISPL0\\r");
+  AwaitOnLine(true, "T80000\\r");
+  AwaitText("Inladen van de gegevens...");
+  ExpectTransferUnderWay();
+  ExpectWindowRepaints();
+  CloseTool();
+}
+
+TEST_F(ToolWithFault, ModuleThatStopsWithinALineLeavesAWindowThatRepaints) {
+  Connect(0, "stops-within-line");
+  AwaitOnLine(true, "T80000\\r");
+  AwaitText("Inladen van de gegevens...");
+  ExpectTransferUnderWay();
+  ExpectWindowRepaints();
+  CloseTool();
+}
+
+TEST_F(ToolWithFault, ReadWithoutStopShowsTheModuleAndKeepsTheMenusDisabled) {
+  Connect(0, "no-stop");
+  AwaitText("Edit mode");
+  Await("panel", "Module gegevens:");
+  Await("push button", "Versturen");
+  Await("push button", "Verbinden");
+  EXPECT_FALSE(IsEnabled("menu item", "Bestand"));
+  ExpectWindowRepaints();
+  CloseTool();
+}
+
+TEST_F(ToolWithFault, ReadThatIsShortKeepsItsStatusAndFreesTheWindow) {
+  Connect(0, "short-stream");
+  AwaitOnLine(false, "STOP\\r");
+  ExpectIdle();
+  AwaitText("Inladen van de gegevens...");
+  CloseTool();
+}
+
+TEST_F(ToolWithFault, CellsOutOfOrderAreAllInTheirPlaces) {
+  Connect(0, "out-of-order");
+  AwaitRead();
+  ExpectImage(DemoLines());
+  CloseTool();
+}
+
+TEST_F(ToolWithFault, CorruptDigitsCutTheirNumbersAndNothingElse) {
+  Connect(0, "corrupt-digits");
+  AwaitRead();
+  std::vector<std::string> lines = DemoLines();
+  constexpr std::size_t every = 10;
+  for (std::size_t line = every; line < lines.size(); line += every) {
+    lines[line] = " " + std::to_string(std::stoi(lines[line]) / 100) + " \r\n";
+  }
+  ExpectImage(lines);
+  CloseTool();
+}
+
+TEST_F(ToolWithFault, IdentityOfAnotherKindThanTheFilesIsToldAndTheFileIsKept) {
+  StartWithFault(0, "wrong-identity");
+  std::filesystem::copy_file(DemoFile(demoFile), directory() / demoFile);
+  OpenFile(demoFile);
+  ClickOn("push button", "Versturen");
+  ExpectMessage(wrongModule);
+  ExpectIdle();
+  ExpectImage(DemoLines());
+  CloseTool();
+}
+
+TEST_F(ToolWithFault, CellBeyondTheTableIsToldAndTheTransferIsLeft) {
+  Connect(0, "index-beyond-table");
+  ExpectMessage(noSuchCell);
+  AwaitText("Edit mode");
+  ExpectIdle();
+  CloseTool();
+}
+
+TEST_F(ToolWithFault, MoreLinesThanThereAreCellsAreToldAndTheTransferIsLeft) {
+  Connect(0, "too-many-lines");
+  ExpectMessage(tooMuch);
+  AwaitText("Edit mode");
+  ExpectIdle();
+  CloseTool();
+}
+
+TEST_F(ToolWithFault, PollInPlaceOfTheIdentityIsNoReasonNotToReadTheModule) {
+  Connect(0, "poll-during-identity");
+  AwaitRead();
+  ExpectImage(DemoLines());
   CloseTool();
 }
 

@@ -16,7 +16,7 @@ inline std::string TitleOf(const std::filesystem::path& file) {
   return std::string(programName) + "  -  " + file.string();
 }
 
-class FileStage : public Stage {
+class FileStage : public virtual Stage {
  protected:
   void OpenSaveScreen();
   // Waits until the field of the name shows just that.

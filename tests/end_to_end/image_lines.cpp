@@ -25,4 +25,13 @@ std::vector<std::string> WithCells(std::vector<std::string> lines,
   return lines;
 }
 
+std::map<int, int> ChangedCells(const std::vector<std::string>& before,
+                                const std::vector<std::string>& after) {
+  std::map<int, int> cells;
+  for (std::size_t line = 1; line < std::min(before.size(), after.size()); ++line) {
+    if (before[line] != after[line]) cells[static_cast<int>(line) - 1] = std::stoi(after[line]);
+  }
+  return cells;
+}
+
 }  // namespace end_to_end

@@ -13,6 +13,14 @@ struct MasterCaptions {
   const char* contexts;
   const char* timePrograms;
   const char* lightPrograms;
+  const char* configuration;
+
+  // The configuration page
+  const char* page;
+  const char* scan;
+  const char* add;
+  const char* address;
+  const char* lumenza;  // a type of module
 
   // All three screens
   const char* edit;  // the frames
@@ -45,6 +53,12 @@ inline constexpr MasterCaptions dutchMaster = {
     .contexts = "Sferen",
     .timePrograms = "Tijd programmaties",
     .lightPrograms = "Licht programmaties",
+    .configuration = "Configuratie",
+    .page = "Configuratie:",
+    .scan = "Automatische scanning",
+    .add = "Toevoegen:",
+    .address = "Adres",
+    .lumenza = "Lumenza module",
     .edit = "Editeren:",
     .erase = "Wissen:",
     .freeMemory = "Vrij geheugen",
@@ -71,6 +85,12 @@ inline constexpr MasterCaptions frenchMaster = {
     .contexts = "Contextes",
     .timePrograms = "Programmation temps",
     .lightPrograms = "Programmation luminosité",
+    .configuration = "Configuration",
+    .page = "Configuration:",
+    .scan = "Scanning automatique",
+    .add = "Ajouter:",
+    .address = "Adresse",
+    .lumenza = "Module Lumenza",
     .edit = "Editer:",
     .erase = "Effacer:",
     .freeMemory = "Mémoire libre",

@@ -16,17 +16,6 @@ namespace fs = std::filesystem;
 
 class MasterSessions : public MasterStage {
  protected:
-  void OpenContext(int number, const std::vector<Action>& actions) {
-    OpenScreen(texts().contexts);
-    PickItem({texts().contextChooser}, number - 1, texts().context + std::to_string(number));
-    AwaitRows(ContextRows(actions));
-  }
-  // The first rows, which are in sight of any window.
-  void ExpectList(std::vector<std::string> rows) {
-    constexpr std::size_t inSight = 10;
-    if (rows.size() > inSight) rows.resize(inSight);
-    AwaitRows(rows);
-  }
   void ReadAll() {
     for (const char* button : {texts().contexts, texts().timePrograms, texts().lightPrograms}) {
       OpenScreen(button);
@@ -42,55 +31,23 @@ class MasterSessions : public MasterStage {
     AwaitFree(image.FreeActions());
     LeaveMasterScreen(mainTitle);
     OpenScreen(texts().timePrograms);
-    ExpectList(TimeRows(image.ReadTimePrograms(), true));
+    ExpectFirstRows(TimeRows(image.ReadTimePrograms(), true));
     AwaitFree(timeSlots - static_cast<int>(image.ReadTimePrograms().size()));
     LeaveMasterScreen(mainTitle);
     OpenScreen(texts().lightPrograms);
-    ExpectList(LightRows(image.ReadLightPrograms(), texts().directions));
+    ExpectFirstRows(LightRows(image.ReadLightPrograms(), texts().directions));
     AwaitFree(lightSlots - static_cast<int>(image.ReadLightPrograms().size()));
     LeaveMasterScreen(mainTitle);
     EXPECT_EQ(Log().size(), before) << "all of it was in memory";
   }
 
-  // Each changes one list by mouse, and the image like it.
-  void AddToContext(MasterImage& image, int number) {
-    Contexts contexts = image.ReadContexts();
-    std::vector<Action>& actions = contexts[number];
-    OpenContext(number, actions);
-    desktop().DoubleClick(AwaitPlace(actions.size() / 5, actions.size() % 5, ""));
-    Await("panel", texts().edit);
-    PickItem(Editor("Module:"), 18, "Z");
-    PickItem(Editor("Code"), 6, "07");
-    PickItem({"Code", texts().edit, 2}, 98, "99");
-    ConfirmEdit();
-    actions.push_back({'Z', 6, 98});
-    AwaitRows(ContextRows(actions));
-    LeaveMasterScreen();
-    image.Put(contexts);
-  }
+  // As those of the stage.
   void EraseFirstTimeProgram(MasterImage& image) {
     std::vector<TimeProgram> programs = image.ReadTimePrograms();
     OpenScreen(texts().timePrograms);
     Erase("1", CodeOf(programs.front().action, Values::InBlocks));
     programs.erase(programs.begin());
-    ExpectList(TimeRows(programs, false));
-    LeaveMasterScreen();
-    image.Put(programs);
-  }
-  void AddLightProgram(MasterImage& image) {
-    std::vector<LightProgram> programs = image.ReadLightPrograms();
-    OpenScreen(texts().lightPrograms);
-    desktop().DoubleClick(AwaitCell(std::to_string(programs.size() + 1), texts().actionColumn, ""));
-    Await("panel", texts().edit);
-    PickItem(Editor("Module:"), 19, "Z");
-    PickItem(Editor("Code"), 0, "01");
-    PickItem({"Code", texts().edit, 2}, 1, "02");
-    ClickOn("radio button", texts().directions[0]);
-    PickItem(ListPlace{texts().level}, 24, "25");
-    ConfirmEdit();
-    programs.push_back({0, 25, {'Z', 0, 1}});
-    ExpectList(LightRows(programs, texts().directions));
-    AwaitFree(lightSlots - static_cast<int>(programs.size()));
+    ExpectFirstRows(TimeRows(programs, false));
     LeaveMasterScreen();
     image.Put(programs);
   }

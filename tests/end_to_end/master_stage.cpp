@@ -75,6 +75,104 @@ std::vector<std::string> MasterStage::LightRows(
   return rows;
 }
 
+void MasterStage::OpenContext(int number, const std::vector<Action>& actions) {
+  OpenScreen(texts().contexts);
+  PickItem({texts().contextChooser}, number - 1, texts().context + std::to_string(number));
+  AwaitRows(ContextRows(actions));
+}
+
+void MasterStage::ExpectFirstRows(std::vector<std::string> rows) {
+  constexpr std::size_t inSight = 10;
+  if (rows.size() > inSight) rows.resize(inSight);
+  AwaitRows(rows);
+}
+
+void MasterStage::AddToContext(MasterImage& image, int number) {
+  Contexts contexts = image.ReadContexts();
+  std::vector<Action>& actions = contexts[number];
+  OpenContext(number, actions);
+  desktop().DoubleClick(AwaitPlace(actions.size() / 5, actions.size() % 5, ""));
+  Await("panel", texts().edit);
+  PickItem(Editor("Module:"), 18, "Z");
+  PickItem(Editor("Code"), 6, "07");
+  PickItem({"Code", texts().edit, 2}, 98, "99");
+  ConfirmEdit();
+  actions.push_back({'Z', 6, 98});
+  AwaitRows(ContextRows(actions));
+  LeaveMasterScreen();
+  image.Put(contexts);
+}
+
+void MasterStage::AddTimeProgram(MasterImage& image) {
+  std::vector<TimeProgram> programs = image.ReadTimePrograms();
+  OpenScreen(texts().timePrograms);
+  EnlargeScreen();
+  desktop().DoubleClick(AwaitCell(std::to_string(programs.size() + 1), texts().actionColumn, ""));
+  Await("panel", texts().edit);
+  PickItem(Editor("Module:"), 19, "Z");
+  PickItem(Editor("Code"), 2, "03");
+  PickItem({"Code", texts().edit, 2}, 3, "04");
+  PickInList(Editor(texts().time), {"End", "Return"}, "23:50");
+  constexpr std::size_t everyDay = 9;
+  PickItem(Editor(texts().day), everyDay - 1, texts().days[everyDay - 1]);
+  ConfirmEdit();
+  programs.push_back({23, 50, everyDay, {}, {'Z', 2, 3}});
+  ExpectFirstRows(TimeRows(programs, false));
+  AwaitFree(timeSlots - static_cast<int>(programs.size()));
+  LeaveMasterScreen();
+  image.Put(programs);
+}
+
+void MasterStage::AddLightProgram(MasterImage& image) {
+  std::vector<LightProgram> programs = image.ReadLightPrograms();
+  OpenScreen(texts().lightPrograms);
+  desktop().DoubleClick(AwaitCell(std::to_string(programs.size() + 1), texts().actionColumn, ""));
+  Await("panel", texts().edit);
+  PickItem(Editor("Module:"), 19, "Z");
+  PickItem(Editor("Code"), 0, "01");
+  PickItem({"Code", texts().edit, 2}, 1, "02");
+  ClickOn("radio button", texts().directions[0]);
+  PickItem(ListPlace{texts().level}, 24, "25");
+  ConfirmEdit();
+  programs.push_back({0, 25, {'Z', 0, 1}});
+  ExpectFirstRows(LightRows(programs, texts().directions));
+  AwaitFree(lightSlots - static_cast<int>(programs.size()));
+  LeaveMasterScreen();
+  image.Put(programs);
+}
+
+void MasterStage::EnlargeScreen() {
+  desktop().MoveActiveWindow(60, 30);
+  desktop().ResizeActiveWindow(1000, 940);
+  AwaitScreen();
+}
+
+void MasterStage::OpenPage() {
+  ClickOn("push button", texts().configuration);
+  Await("panel", texts().page);
+  desktop().MoveActiveWindow(100, 30);
+  desktop().ResizeActiveWindow(1000, 950);
+  AwaitWindow(programName);
+}
+
+void MasterStage::ScanModules() {
+  const std::size_t before = TimesOnLine(false, "STOP\\r");
+  ClickOn("push button", texts().scan);
+  AwaitOnLine(true, "T80400\\r");
+  EXPECT_TRUE(WaitFor([&] { return TimesOnLine(false, "STOP\\r") > before; }))
+      << "the master tells no list";
+  Await("push button", texts().scan);
+}
+
+void MasterStage::AddModule(char letter, int typeIndex, std::string_view type) {
+  desktop().DoubleClick(AwaitCell("", texts().address, ""));
+  Await("panel", texts().add);
+  PickItem({"Module:", texts().add}, 0, std::string(1, letter));
+  PickItem({"Type:", texts().add}, typeIndex, type);
+  ClickOn("push button", captions().confirm);
+  AwaitGone("panel", texts().add);
+}
+
 std::vector<std::string> MasterStage::Commands() const {
   std::vector<std::string> commands;
   for (const LogUnit& unit : Log()) {

@@ -12,7 +12,7 @@
 
 namespace end_to_end {
 
-class MasterStage : public FileStage {
+class MasterStage : public virtual FileStage {
  protected:
   // Starts the demo house's master and the tool, both of which are up then.
   void StartWithDemoMaster(const Captions& language);
@@ -45,6 +45,22 @@ class MasterStage : public FileStage {
                                     bool datesPadded) const;
   std::vector<std::string> LightRows(const std::vector<LightProgram>& programs,
                                      const std::array<const char*, 2>& directions) const;
+
+  void OpenContext(int number, const std::vector<Action>& actions);
+  // The first rows of a list, which are in sight of any window.
+  void ExpectFirstRows(std::vector<std::string> rows);
+  // The screen is made so high that the demo house and a few rows more are in sight.
+  void EnlargeScreen();
+  // Each opens a screen, adds something to its list by mouse, to the image as well, and leaves.
+  void AddToContext(MasterImage& image, int number);
+  void AddTimeProgram(MasterImage& image);
+  void AddLightProgram(MasterImage& image);
+
+  // The configuration page, in a window that is so high that the whole list is in sight.
+  void OpenPage();
+  void ScanModules();
+  // The letters that no module has are offered; this one is to be the first of them.
+  void AddModule(char letter, int typeIndex, std::string_view type);
 
   // The commands that the tool has put on the line so far, one for each conversation.
   std::vector<std::string> Commands() const;

@@ -6,8 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "end_to_end/deadline.h"
-#include "end_to_end/stage.h"
+#include "end_to_end/master_stage.h"
 
 namespace end_to_end {
 namespace {
@@ -56,55 +55,19 @@ std::map<int, int> CellsOf(const std::vector<Listed>& modules) {
   return cells;
 }
 
-class ModuleList : public Stage {
+class ModuleList : public MasterStage {
  protected:
   void SetUp() override {
-    LayOutDirectory(french);
-    StartModule(9, {"--image", DemoFile("Master.BK1").string(), "--save", savedImage().string()});
-    StartTool();
+    StartWithDemoMaster(french);
     ConnectAndRead();
   }
 
-  // In a window that is so high that the whole list is in sight.
-  void OpenPage() {
-    ClickOn("push button", "Configuration");
-    Await("panel", "Configuration:");
-    desktop().MoveActiveWindow(100, 30);
-    desktop().ResizeActiveWindow(1000, 950);
-    AwaitWindow("TREVAN BK-CONF");
-  }
   void Delete(const std::string& number, const std::string& letter) {
     const std::string question = "Effacer le module?";
     desktop().DoubleClick(AwaitCell(number, "Adresse", letter));
     AwaitText(question);
     ClickOn("push button", captions().yes);
     AwaitGone("label", question);
-  }
-  // The letters that no module has are offered, the first of them first.
-  void Add(const Listed& module, int typeIndex) {
-    const std::string panel = "Ajouter:";
-    desktop().DoubleClick(AwaitCell("", "Adresse", ""));
-    Await("panel", panel);
-    PickItem({"Module:", panel}, 0, std::string(1, module.letter));
-    PickItem({"Type:", panel}, typeIndex, module.type);
-    ClickOn("push button", captions().confirm);
-    AwaitGone("panel", panel);
-  }
-  void Scan() {
-    const std::size_t before = Stops();
-    ClickOn("push button", scanButton);
-    AwaitOnLine(true, "T80400\\r");
-    EXPECT_TRUE(WaitFor([&] { return Stops() > before; })) << "the master tells no list";
-    Await("push button", scanButton);
-  }
-
-  const std::string scanButton = "Scanning automatique";
-
- private:
-  std::size_t Stops() const {
-    const std::vector<LogUnit> units = Log();
-    return static_cast<std::size_t>(std::count_if(
-        units.begin(), units.end(), [](const LogUnit& unit) { return unit.text == "STOP\\r"; }));
   }
 };
 
@@ -114,11 +77,11 @@ TEST_F(ModuleList, IsReadFromTheLineChangedAndSent) {
 
   Delete("3", "C");
   AwaitRows(RowsOf(Without(house, 'C')));
-  Scan();
+  ScanModules();
   AwaitRows(RowsOf(house));
 
   const Listed added = {'K', 11, "Module Lumenza"};
-  Add(added, 9);
+  AddModule(added.letter, 9, added.type);
   std::vector<Listed> modules = house;
   modules.push_back(added);
   AwaitRows(RowsOf(modules));

@@ -381,14 +381,16 @@ std::vector<LogUnit> Stage::Log() const {
   return units;
 }
 
+std::size_t Stage::TimesOnLine(bool fromTool, std::string_view text) const {
+  const std::vector<LogUnit> units = Log();
+  return static_cast<std::size_t>(std::count_if(
+      units.begin(), units.end(),
+      [&](const LogUnit& unit) { return unit.fromTool == fromTool && unit.text == text; }));
+}
+
 void Stage::AwaitOnLine(bool fromTool, std::string_view text) {
-  const bool came = WaitFor([&] {
-    const std::vector<LogUnit> units = Log();
-    return std::any_of(units.begin(), units.end(), [&](const LogUnit& unit) {
-      return unit.fromTool == fromTool && unit.text == text;
-    });
-  });
-  EXPECT_TRUE(came) << "never on the line: " << text;
+  EXPECT_TRUE(WaitFor([&] { return TimesOnLine(fromTool, text) > 0; }))
+      << "never on the line: " << text;
 }
 
 void Stage::CloseTool() {

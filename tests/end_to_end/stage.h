@@ -130,6 +130,8 @@ class Stage : public ::testing::Test {
 
   // The complete lines of the log so far, without the module's polls.
   std::vector<LogUnit> Log() const;
+  // How often the tool, or the module, has put `text` on the line so far.
+  std::size_t TimesOnLine(bool fromTool, std::string_view text) const;
   // Waits until the tool, or the module, has put `text` on the line.
   void AwaitOnLine(bool fromTool, std::string_view text);
 

@@ -1,7 +1,6 @@
 #include "end_to_end/table_stage.h"
 
 #include <algorithm>
-#include <sstream>
 
 #include "end_to_end/deadline.h"
 #include "end_to_end/image_lines.h"
@@ -21,23 +20,6 @@ std::vector<int> CellsIn(const std::string& content) {
   }
   if (!cells.empty()) cells.erase(cells.begin());  // the kind
   return cells;
-}
-
-// In words, for there are thousands of cells and of frames.
-template <typename Part>
-std::vector<std::string> Differences(const std::vector<Part>& found,
-                                     const std::vector<Part>& wanted) {
-  std::vector<std::string> differences;
-  const auto add = [&](const std::string& what, const auto& one, const auto& other) {
-    std::ostringstream words;
-    words << what << ": " << one << " in place of " << other;
-    differences.push_back(words.str());
-  };
-  if (found.size() != wanted.size()) add("count", found.size(), wanted.size());
-  for (std::size_t i = 0; i < std::min(found.size(), wanted.size()); ++i) {
-    if (found[i] != wanted[i]) add(std::to_string(i), found[i], wanted[i]);
-  }
-  return differences;
 }
 
 const std::vector<std::string> nothing;

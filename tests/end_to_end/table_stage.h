@@ -35,7 +35,7 @@ struct Conversation {
   std::vector<LogUnit> frames;
 };
 
-class TableStage : public FileStage {
+class TableStage : public virtual FileStage {
  protected:
   // A module with a file of the demo house, and the tool, both of which are up then.
   void StartWithDemo(int kind, const std::string& demoFile, const Captions& language);

@@ -2,27 +2,15 @@
 // changed, sent and kept in a file; and the temperatures that a module measures are read.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <ostream>
 #include <string>
 #include <vector>
 
 #include "end_to_end/deadline.h"
-#include "end_to_end/table_stage.h"
+#include "end_to_end/temperature_stage.h"
 
 namespace end_to_end {
 namespace {
-
-constexpr int kind = 2;
-constexpr const char* demoFile = "Temp E.BK1";
-
-// The first cell of each table in the file; the header begins with cell 0.
-constexpr int sensors = 4;
-constexpr int periods = 68;
-constexpr int setpoints = 740;
-constexpr int lights = 1076;
-constexpr int valves = lights + 64;
-constexpr int pump = lights + 80;
 
 constexpr CellRun headerRun = {0, 2, 3};
 constexpr CellRun sensorRun = {sensors, periods - 1, 0};
@@ -38,99 +26,9 @@ const Writing programWriting = {"T72000", {periodRun, setpointRun}, tick, tableP
 const Writing wholeWriting = {
     "T75000", {headerRun, sensorRun, periodRun, setpointRun, tailRun}, tick, tablePause};
 
-struct TemperatureCaptions {
-  const char* ids;  // the buttons of the main window
-  const char* program;
-  const char* live;
-  const char* room;  // in front of its number
-  const char* roomAsked;
-  const char* idGroup;
-  const char* sensor;
-  const char* valveGroup;
-  const char* output;
-  const char* programGroup;
-};
-
-const TemperatureCaptions dutchTexts = {.ids = "ID nummers en uitgangen kleppen",
-                                        .program = "Instellingen periodes en temperaturen",
-                                        .live = "Actuele temperaturen (diagnose)",
-                                        .room = "Ruimte ",
-                                        .roomAsked = "Ruimte ?",
-                                        .idGroup = "ID nummers:",
-                                        .sensor = "Temp. sensor:",
-                                        .valveGroup = "Uitgangen kleppen:",
-                                        .output = "Uitgang:",
-                                        .programGroup = "Instellingen periodes en temperaturen:"};
-
-const TemperatureCaptions frenchTexts = {.ids = "Numéros ID et sorties des vannes",
-                                         .program = "Paramétrage périodes et températures",
-                                         .live = "Températures actuelles (diagnostics)",
-                                         .room = "Pièce ",
-                                         .roomAsked = "Pièce ?",
-                                         .idGroup = "Numéros ID:",
-                                         .sensor = "Capt. de temp:",
-                                         .valveGroup = "Sorties des vannes:",
-                                         .output = "Sortie:",
-                                         .programGroup = "Paramétrage périodes et températures:"};
-
-class Rooms : public TableStage {
- protected:
-  const TemperatureCaptions& texts() const {
-    return captions().language == dutch.language ? dutchTexts : frenchTexts;
-  }
-  std::string TitleOfModule(char letter) const {
-    const std::string title = captions().language == dutch.language
-                                  ? "Temperatuurmodule KR7150 <adres = "
-                                  : "Module température KR7150 <adresse = ";
-    return title + letter + ">";
-  }
-
-  ListPlace RoomOfIds() const { return {texts().idGroup}; }
-  ListPlace Sensor(int byte) const { return {texts().sensor, texts().idGroup, byte}; }
-  ListPlace Light(int byte) const { return {"LED:", texts().idGroup, byte}; }
-  ListPlace Valve() const { return {texts().valveGroup}; }
-  ListPlace ValveLetter() const { return {captions().address, texts().valveGroup}; }
-  ListPlace ValveOutput() const { return {texts().output, texts().valveGroup}; }
-  ListPlace RoomOfProgram() const { return {texts().programGroup}; }
-
-  void PickRoom(const ListPlace& list, int number) {
-    AwaitListText(list, texts().roomAsked);
-    PickItem(list, number - 1, texts().room + std::to_string(number));
-  }
-  void AwaitIds(const std::vector<std::string>& sensor, const std::vector<std::string>& light) {
-    for (int byte = 1; byte <= 8; ++byte) {
-      AwaitListText(Sensor(byte), sensor.at(static_cast<std::size_t>(byte) - 1));
-      AwaitListText(Light(byte), light.at(static_cast<std::size_t>(byte) - 1));
-    }
-  }
-  void AwaitValve(const char* letter, const char* output) {
-    AwaitListText(ValveLetter(), letter);
-    AwaitListText(ValveOutput(), output);
-  }
-
-  // The scroll behind labels that show this.
-  void AwaitScroll(const std::string& labels) { AwaitField("scroll bar", labels); }
-  // Moves it there with the keyboard.
-  void PressOnScroll(const std::string& before, const std::vector<std::string>& keys,
-                     const std::string& after) {
-    TabTo("scroll bar", before);
-    desktop().Press(keys);
-    AwaitScroll(after);
-  }
-  // One step up by a click on the arrow at its right end.
-  void StepScrollByMouse(const std::string& before, const std::string& after) {
-    Widget arrow = AwaitField("scroll bar", before);
-    constexpr int width = 12;
-    arrow.x += arrow.width - width;
-    arrow.width = width;
-    desktop().Click(arrow);
-    AwaitScroll(after);
-  }
-};
-
 // --- Identities and valves ----------------------------------------------------------------------
 
-class Identities : public Rooms {
+class Identities : public TemperatureStage {
  protected:
   void ChangeRoomByMouse() {
     PickRoom(RoomOfIds(), 3);
@@ -170,7 +68,7 @@ class Identities : public Rooms {
 };
 
 TEST_F(Identities, AndValvesAreSentAloneAndWithAllElseFromAFile) {
-  StartWithDemo(kind, demoFile, dutch);
+  StartWithDemo(temperatureKind, temperatureFile, dutch);
   const std::string title = TitleOfModule('E');
   ConnectAndRead();
   OpenAndRead(texts().ids, title, "T81000");
@@ -217,7 +115,7 @@ TEST_F(Identities, AndValvesAreSentAloneAndWithAllElseFromAFile) {
 
 // --- Periods and set points ---------------------------------------------------------------------
 
-class Programs : public Rooms {
+class Programs : public TemperatureStage {
  protected:
   // Tuesday of the first room, from the values of a workday of the house.
   void ChangeDayByKeyboard() {
@@ -235,7 +133,7 @@ class Programs : public Rooms {
 };
 
 TEST_F(Programs, AreSentAloneAndSoAreIdentitiesBehindThem) {
-  StartWithDemo(kind, demoFile, french);
+  StartWithDemo(temperatureKind, temperatureFile, french);
   const std::string title = TitleOfModule('E');
   ConnectAndRead();
   OpenAndRead(texts().program, title, "T82000");
@@ -289,8 +187,6 @@ struct Measured {
   const Captions* captions;
   const char* seed;
   char letter;
-  const char* group;
-  const char* status;
   std::vector<std::string> rooms;
 };
 
@@ -302,8 +198,6 @@ const Measured dutchMeasured = {
     .captions = &dutch,
     .seed = "7",
     .letter = 'J',
-    .group = "Actuele temperaturen:",
-    .status = "Actuele temperaturen",
     .rooms = {"Ruimte 1 = 24°C", "Ruimte 2 = 21°C", "Ruimte 3 = 18°C",
               "Ruimte 4 : ID nr. van Tempsensor EN Led niet juist of niet gevonden !",
               "Ruimte 5 = 21°C", "---", "---", "---"}};
@@ -312,41 +206,21 @@ const Measured frenchMeasured = {
     .captions = &french,
     .seed = "55",
     .letter = 'H',
-    .group = "Températures actuelles:",
-    .status = "Températures actuelles",
     .rooms = {"Pièce 1 : Température négative !!", "Pièce 2 = 25°C", "Pièce 3 = 15°C",
               "Pièce 4 = 15°C", "Pièce 5 = 20°C", "Pièce 6 = 19°C", "Pièce 7 = 23°C", "---"}};
 
-class Temperatures : public Rooms, public ::testing::WithParamInterface<Measured> {
- protected:
-  // The lines in the frame, from the top.
-  void AwaitTemperatures() {
-    std::vector<std::string> lines;
-    WaitFor([&] {
-      lines.clear();
-      std::vector<Widget> labels;
-      for (const Widget& each : desktop().Widgets()) {
-        if (each.role == "label" && each.group == GetParam().group) labels.push_back(each);
-      }
-      std::sort(labels.begin(), labels.end(),
-                [](const Widget& one, const Widget& other) { return one.y < other.y; });
-      for (const Widget& each : labels) lines.push_back(each.name);
-      return lines == GetParam().rooms;
-    });
-    EXPECT_EQ(lines, GetParam().rooms);
-  }
-};
+class Temperatures : public TemperatureStage, public ::testing::WithParamInterface<Measured> {};
 
 TEST_P(Temperatures, AreMeasuredEachTimeTheyAreAskedFor) {
   LayOutDirectory(*GetParam().captions);
-  StartModule(kind, {"--seed", GetParam().seed});
+  StartModule(temperatureKind, {"--seed", GetParam().seed});
   StartTool();
   const std::string title = TitleOfModule(GetParam().letter);
   ConnectAndRead();
   for (int times = 0; times < 2; ++times) {
     OpenTable(texts().live, title);
-    AwaitTemperatures();
-    AwaitText(GetParam().status);
+    AwaitTemperatures(GetParam().rooms);
+    AwaitText(texts().liveStatus);
     LeaveByButton(title);
   }
   std::vector<std::string> commands;

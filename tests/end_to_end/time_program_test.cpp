@@ -41,12 +41,6 @@ class TimePrograms : public MasterStage {
     programs_ = DemoMaster().ReadTimePrograms();
   }
 
-  // So high that the demo house and a few rows more are in sight.
-  void EnlargeScreen() {
-    desktop().MoveActiveWindow(60, 30);
-    desktop().ResizeActiveWindow(1000, 940);
-    AwaitScreen();
-  }
   void ExpectList(bool datesPadded) {
     AwaitRows(TimeRows(programs_, datesPadded));
     AwaitFree(timeSlots - static_cast<int>(programs_.size()));
