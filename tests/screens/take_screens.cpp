@@ -2,6 +2,7 @@
 // Arguments: a settings directory, and a directory that gets the pictures. Used by dev/screens.
 #include <QApplication>
 #include <QDir>
+#include <QPdfView>
 #include <QPixmap>
 #include <QTest>
 #include <cstdio>
@@ -14,12 +15,26 @@
 namespace bkconf {
 namespace {
 
-/// Until the front window stands, is active and has been painted.
+/// Whether all pages of a manual that are in sight have been drawn, which takes them a while.
+bool IsDrawn(QWidget* window) {
+  const auto* pages = window->findChild<QPdfView*>();
+  if (pages == nullptr) return true;
+  const QImage image = pages->viewport()->grab().toImage();
+  const int middle = image.width() / 2;
+  for (int y = 0; y < image.height(); ++y) {
+    if (image.pixelColor(middle, y).lightness() < 128) return true;
+  }
+  return false;
+}
+
+/// Until the front window stands, is active and has been painted as it stays.
 void Settle() {
   QWidget* front = House::Front();
   (void)QTest::qWaitForWindowExposed(front);
   if (!front->inherits("QMenu")) (void)QTest::qWaitForWindowActive(front);
-  QCoreApplication::processEvents();
+  constexpr int rounds = 5;
+  for (int round = 0; round < rounds; ++round) QCoreApplication::processEvents();
+  (void)QTest::qWaitFor([front] { return IsDrawn(front); });
 }
 
 void Take(const ShownScreen& shown, const QDir& directory) {
