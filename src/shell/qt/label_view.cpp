@@ -70,10 +70,7 @@ void FittingLabel::Wrap() {
   wrapped_ = true;
   setWordWrap(true);
   setAlignment(Qt::AlignLeft | Qt::AlignTop);
-  // A height that goes with the width would be asked for by layouts, but not by windows.
-  QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Minimum);
-  policy.setHeightForWidth(false);
-  setSizePolicy(policy);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Minimum);
 }
 
 void FittingLabel::KeepLines(int lines) {

@@ -25,6 +25,9 @@ class FittingLabel : public QLabel {
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
+  /// Never, although Qt says so of every label that wraps: the layouts around it would ask for the
+  /// height that is best at a width where the least would do.
+  bool hasHeightForWidth() const override { return false; }
 
  protected:
   bool event(QEvent* event) override;

@@ -16,8 +16,6 @@ namespace {
 
 /// Of a window that stands by itself, where the desktop has the room.
 constexpr QSize PreferredSize{1000, 780};
-/// What the frame of a window may take of the desktop.
-constexpr QSize FrameRoom{10, 40};
 
 std::vector<ScreenWindow*> windows;
 
@@ -66,7 +64,8 @@ ScreenWindow::~ScreenWindow() {
 
 void ScreenWindow::Build() {
   built_ = true;
-  setCentralWidget(new QWidget(this));
+  content_ = new ContentArea(this);
+  setCentralWidget(content_);
   MakeViews();
   MakeMenus();
   PlaceViews();
@@ -75,7 +74,7 @@ void ScreenWindow::Build() {
 /// What can be reached by keyboard is known once the views show their fields.
 void ScreenWindow::MakeViews() {
   for (Field* field : screen_.fields) {
-    if (auto view = MakeView(*field, centralWidget())) views_.push_back(std::move(view));
+    if (auto view = MakeView(*field, content_->widget())) views_.push_back(std::move(view));
   }
   for (const auto& view : views_) view->Refresh();
 }
@@ -91,7 +90,7 @@ void ScreenWindow::PlaceViews() {
   LayoutBuilder builder([this](const std::string& field) -> WidgetView& { return ViewOf(field); });
   QLayout* content = builder.Build(look_());
   content->setContentsMargins(WindowMargin, WindowMargin, WindowMargin, WindowMargin);
-  centralWidget()->setLayout(content);
+  content_->widget()->setLayout(content);
   placed_ = builder.Placed();
   covers_ = builder.Covers();
   for (QWidget* part : builder.Entered()) entrances_.push_back({part});
@@ -121,11 +120,12 @@ void ScreenWindow::Refresh() {
 void ScreenWindow::PushFields() {
   const QPointer<QWidget> focusBefore = focusWidget();
   // Laid out when all is as it will be: what is between has never to fit, and costs no time.
-  QLayout* content = centralWidget()->layout();
+  QLayout* content = content_->widget()->layout();
   content->setEnabled(false);
   for (const auto& view : views_) view->Refresh();
   content->setEnabled(true);
   content->activate();
+  content_->TellNeed();
   for (const auto& menu : menus_) menu->Refresh();
   if (title_ != screen_.title) {
     title_ = screen_.title;
@@ -134,6 +134,9 @@ void ScreenWindow::PushFields() {
   PushEnter();
   PushCovers();
   if (!PushEntrances(focusBefore)) KeepFocus(focusBefore);
+  if (focusWidget() != nullptr && focusWidget() != focusBefore) {
+    content_->ensureWidgetVisible(focusWidget(), WindowMargin, WindowMargin);
+  }
 }
 
 /// The button that Enter presses looks like it.
@@ -267,14 +270,15 @@ void ScreenWindow::TakePlace() {
 /// What changed within groups while the window was hidden reaches the layouts around them only
 /// here: from within to without.
 void ScreenWindow::LayOut() {
-  QList<QWidget*> widgets = findChildren<QWidget*>();
+  QList<QWidget*> widgets = content_->findChildren<QWidget*>();
   std::reverse(widgets.begin(), widgets.end());
-  widgets.append(this);
   for (const QWidget* widget : std::as_const(widgets)) {
     if (widget->layout() == nullptr || widget->window() != this) continue;
     widget->layout()->invalidate();
     widget->layout()->activate();
   }
+  content_->updateGeometry();
+  layout()->activate();
 }
 
 /// Gives the window its first size and place. One with an opener is as large as its content asks

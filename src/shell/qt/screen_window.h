@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "platform/field.h"
+#include "shell/qt/content_area.h"
 #include "shell/qt/field_view.h"
 #include "shell/qt/layout.h"
 #include "shell/qt/layout_builder.h"
@@ -76,6 +77,7 @@ class ScreenWindow : public QMainWindow {
   Part (*look_)();
   ScreenWindow* opener_;
   bool built_ = false;
+  ContentArea* content_ = nullptr;
   std::vector<std::unique_ptr<WidgetView>> views_;
   std::vector<std::unique_ptr<MenuView>> menus_;
   std::vector<QWidget*> placed_;  ///< in reading order

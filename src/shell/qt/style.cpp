@@ -1,8 +1,10 @@
 #include "shell/qt/style.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QFontDatabase>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QPushButton>
@@ -20,15 +22,45 @@ constexpr QRgb TextOnColour = 0xff1c2630;
 constexpr QRgb DisabledOnColour = 0xff56616c;
 constexpr QRgb DisplayGround = 0xffe4efe0;
 
-/// Fusion, but for groups: a card with its caption in bold at the top.
+bool IsDark(const QColor& colour) {
+  constexpr int half = 128;
+  return colour.lightness() < half;
+}
+
+/// Tall enough to be hit without aiming, in device-independent pixels.
+int PressedHeight(const QFontMetrics& metrics) {
+  return 9 * metrics.height() / 4;
+}
+
+/// A ring that shows where the keyboard is, within the rectangle.
+void DrawFocusRing(QPainter& painter, const QRect& rect, const QColor& colour) {
+  constexpr double width = 2;
+  constexpr double radius = 3;
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(colour, width));
+  painter.drawRoundedRect(QRectF(rect).adjusted(1, 1, -1, -1), radius, radius);
+  painter.restore();
+}
+
+/// Fusion, but for groups, which are cards with their caption in bold at the top, and for the
+/// keyboard, whose place is always seen.
 class CardStyle : public QProxyStyle {
  public:
   CardStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
+    if (element == PE_FrameFocusRect) {
+      DrawFocusRing(*painter, option->rect, RingColour(*option));
+      return;
+    }
     if (element != PE_FrameGroupBox) {
       QProxyStyle::drawPrimitive(element, option, painter, widget);
+      const bool focused = option->state.testFlag(State_HasFocus);
+      if (element == PE_FrameLineEdit && focused)
+        DrawFocusRing(*painter, option->rect, Ring(*option));
       return;
     }
     const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
@@ -46,6 +78,8 @@ class CardStyle : public QProxyStyle {
     const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
     if (control != CC_GroupBox || group == nullptr) {
       QProxyStyle::drawComplexControl(control, option, painter, widget);
+      const bool focused = option->state.testFlag(State_HasFocus);
+      if (control == CC_ComboBox && focused) DrawFocusRing(*painter, option->rect, Ring(*option));
       return;
     }
     painter->save();
@@ -57,25 +91,57 @@ class CardStyle : public QProxyStyle {
     painter->restore();
   }
 
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override {
+    if (element == CE_HeaderEmptyArea) {
+      // A table goes on in blank below its last row.
+      painter->fillRect(option->rect, option->palette.base());
+      return;
+    }
+    QProxyStyle::drawControl(element, option, painter, widget);
+    const bool focused = option->state.testFlag(State_HasFocus);
+    if (element == CE_ShapedFrame && focused && qobject_cast<const QAbstractItemView*>(widget)) {
+      painter->setPen(Ring(*option));
+      painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    }
+  }
+
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* more) const override {
+    // The buttons of a message look like all others.
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, more);
+  }
+
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override {
+    const bool margin = metric == PM_LayoutLeftMargin || metric == PM_LayoutTopMargin ||
+                        metric == PM_LayoutRightMargin || metric == PM_LayoutBottomMargin;
+    if (margin && qobject_cast<const QMessageBox*>(widget) != nullptr) return WindowMargin;
+    return QProxyStyle::pixelMetric(metric, option, widget);
+  }
+
   QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
                        const QWidget* widget) const override {
     QRect place = QProxyStyle::subControlRect(control, option, part, widget);
     const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
-    if (control != CC_GroupBox || group == nullptr || group->text.isEmpty()) return place;
+    if (control != CC_GroupBox || group == nullptr) return place;
     const int captionTop = FrameMargin * 2 / 3;
-    if (part == SC_GroupBoxLabel) {
-      const int contentLeft = subControlRect(control, option, SC_GroupBoxContents, widget).left();
-      place.moveTopLeft({contentLeft + FrameMargin, captionTop});
+    if (part == SC_GroupBoxLabel) place.moveTopLeft({FrameMargin, captionTop});
+    if (part == SC_GroupBoxContents) {
+      // The layout has the margins. What has no caption begins at the top.
+      place = option->rect;
+      if (!group->text.isEmpty()) place.setTop(captionTop + option->fontMetrics.height());
     }
-    if (part == SC_GroupBoxContents) place.setTop(captionTop + option->fontMetrics.height());
     return place;
   }
 
   QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& content,
                          const QWidget* widget) const override {
     QSize size = QProxyStyle::sizeFromContents(type, option, content, widget);
-    if (type == CT_PushButton) size.rwidth() += 2 * ButtonPadding;
-    return size;
+    if (type != CT_PushButton) return size;
+    return {size.width() + 2 * ButtonPadding,
+            qMax(size.height(), PressedHeight(option->fontMetrics))};
   }
 
   static QFont Bold(QFont font) {
@@ -84,6 +150,18 @@ class CardStyle : public QProxyStyle {
   }
 
  private:
+  static QColor Ring(const QStyleOption& option) {
+    return option.palette.color(QPalette::Highlight);
+  }
+  /// On a ground that is as dark as the ring it is light.
+  static QColor RingColour(const QStyleOption& option) {
+    const auto* focus = qstyleoption_cast<const QStyleOptionFocusRect*>(&option);
+    const bool known = focus != nullptr && focus->backgroundColor.isValid();
+    const QColor ground = known ? focus->backgroundColor : option.palette.color(QPalette::Button);
+    const bool dark = IsDark(ground) && IsDark(Ring(option));
+    return dark ? option.palette.color(QPalette::HighlightedText) : Ring(option);
+  }
+
   static constexpr double Radius = 5;
   static constexpr int ButtonPadding = 6;
 };
@@ -143,10 +221,9 @@ void WriteOnColour(QPalette& palette, QPalette::ColorRole role) {
 }
 
 QColor ReadableOn(const QColor& ground, const Colour& colour) {
-  constexpr int half = 128;
   constexpr int leastLight = 190;
   const QColor text(colour.red, colour.green, colour.blue);
-  if (ground.lightness() >= half) return text;
+  if (!IsDark(ground)) return text;
   return QColor::fromHsl(text.hslHue(), text.hslSaturation(),
                          qMax(leastLight, 255 - text.lightness()));
 }
@@ -160,9 +237,8 @@ void WriteInColour(QPalette& palette, QPalette::ColorRole role, QPalette::ColorR
 
 void ApplyStyle(QApplication& application) {
   application.setStyle(new CardStyle);
-  if (application.palette().color(QPalette::Window).lightness() >= 128) {
+  if (!IsDark(application.palette().color(QPalette::Window)))
     application.setPalette(LightPalette());
-  }
 }
 
 void MakeBold(QWidget& widget) {
@@ -170,12 +246,11 @@ void MakeBold(QWidget& widget) {
 }
 
 void ApplyLook(Look look, QWidget& widget) {
-  // All that can be pressed is tall enough to be hit without aiming, and a line of text beside it
-  // is as tall.
+  // A line of text is as tall as what can be pressed beside it.
   const bool pressed = look == Look::Tall || dynamic_cast<QPushButton*>(&widget) != nullptr ||
                        dynamic_cast<QComboBox*>(&widget) != nullptr ||
                        dynamic_cast<QLineEdit*>(&widget) != nullptr;
-  if (pressed && look != Look::Low) widget.setMinimumHeight(9 * widget.fontMetrics().height() / 4);
+  if (pressed && look != Look::Low) widget.setMinimumHeight(PressedHeight(widget.fontMetrics()));
   switch (look) {
     case Look::Plain:
     case Look::Tall:

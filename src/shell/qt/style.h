@@ -13,7 +13,7 @@ namespace bkconf {
 
 /// Around the content of a window and of a frame, in device-independent pixels.
 inline constexpr int WindowMargin = 16;
-inline constexpr int FrameMargin = 14;
+inline constexpr int FrameMargin = 16;
 
 /// Fusion with groups as cards, in calm colours. On a desktop in dark colours those of the desktop
 /// are kept.

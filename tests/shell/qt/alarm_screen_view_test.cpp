@@ -145,9 +145,9 @@ class AlarmScreenViewTest : public QObject, private ScreenStage {
   void TheJoiningStandsBetweenLightAndTime() {
     PickRow("detector", 0);
     const QRect both = Place(Find<QRadioButton>("both"));
-    QVERIFY(Place(Panel("lightGroup")).right() < both.left());
-    QVERIFY(both.right() < Place(Panel("timeGroup")).left());
-    QVERIFY(both.bottom() < Place(Find<QRadioButton>("either")).top());
+    QVERIFY(Place(Panel("lightGroup")).bottom() < both.top());
+    QVERIFY(both.bottom() < Place(Panel("timeGroup")).top());
+    QVERIFY(both.right() < Place(Find<QRadioButton>("either")).left());
   }
 
   void TheHoursStandWithinTheirWords() {

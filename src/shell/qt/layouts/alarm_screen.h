@@ -9,7 +9,7 @@
 namespace bkconf {
 
 inline Part AlarmScreenLayout() {
-  constexpr int captionCharacters = 50;
+  constexpr int captionCharacters = 30;
   const Part actions =
       Row({Share(1, WrappedFrame(captionCharacters, "triggerGroup",
                                  Column({Labelled("triggerGroup", "triggerAction")}))),

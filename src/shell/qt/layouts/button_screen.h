@@ -16,7 +16,7 @@ inline Part ButtonFunctionsPart() {
               Frame("firstGroup", PickerPart("first")),
               Frame("secondGroup", PickerPart("second", {Item("noSecond")})), Space()});
   const Part question =
-      Row({Wide(22, Item("baseQuestion", Look::Wrapped)), Item("baseYes"), Item("baseNo")});
+      Row({Wide(30, Item("baseQuestion", Look::Wrapped)), Item("baseYes"), Item("baseNo")});
   const Part all = Row({Tight({Item("clearFirst"), Item("clearSecond"), Item("base")}),
                         Column({Kept(Frame("baseGroup", question)), Space()}), Space(),
                         Column({Item("store", Look::Primary), Space()})});
@@ -30,7 +30,7 @@ inline Part PressTimePart() {
 
 inline Part ButtonScreenLayout() {
   return Column({Hidable("functionsGroup", ButtonFunctionsPart()),
-                 Hidable("timeGroup", PressTimePart()), Row({Space(), Item("leave")})});
+                 Hidable("timeGroup", PressTimePart()), Rule(), Row({Space(), Item("leave")})});
 }
 
 }  // namespace bkconf

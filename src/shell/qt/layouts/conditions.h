@@ -14,15 +14,13 @@ inline Part PeriodPart(const std::string& name) {
               Space()});
 }
 
-/// Light and time, with their joining between them. What is not asked for keeps its room.
+/// Light, and below it time, with their joining between them. What is not asked for keeps its room.
 inline Part ConditionsPart() {
-  const Part light = Frame(
-      "lightGroup", Column({Tight({Item("noLight", Look::Tall),
-                                   Row({Item("levelLabel"), Labelled("levelLabel", "level")})}),
-                            Space()}));
-  const Part joining = Column({Space(), Item("both"), Item("either"), Space()});
+  const Part light = Frame("lightGroup", Row({Item("noLight", Look::Tall), Item("levelLabel"),
+                                              Labelled("levelLabel", "level"), Space()}));
+  const Part joining = Row({Item("both"), Item("either"), Space()});
   const Part time = Frame("timeGroup", Tight({PeriodPart("period1"), PeriodPart("period2")}));
-  return Tight({Item("noCondition", Look::Tall), Kept(Row({light, joining, Share(1, time)}))});
+  return Tight({Item("noCondition", Look::Tall), Kept(Tight({light, joining, time}))});
 }
 
 }  // namespace bkconf

@@ -30,7 +30,7 @@ inline Part IrScreenLayout() {
                                                  PickerPart("picker"), Space(),
                                                  Row({Space(), Item("store", Look::Primary)})}));
   return Column({Item("instruction"),
-                 Row({Share(1, Labelled("instruction", "remote")), Kept(Wide(36, IrRowsPart())),
+                 Row({Share(1, Labelled("instruction", "remote")), Kept(Wide(40, IrRowsPart())),
                       Kept(Wide(PickerEditorCharacters, editor))}),
                  Rule(), Row({Space(), Item("leave")})});
 }

@@ -51,8 +51,8 @@ inline Part ModulePagePart() {
 
 inline Part MainWindowLayout() {
   const Part selection =
-      Column({Row({Item("moduleListLabel"), Share(1, Labelled("moduleListLabel", "moduleList")),
-                   Item("upgrade")}),
+      Column({Row({Item("moduleListLabel"),
+                   Share(1, Wide(22, Labelled("moduleListLabel", "moduleList"))), Item("upgrade")}),
               Frame("pictureGroup",
                     Column({Labelled("moduleCaption", "picture"),
                             Item("moduleCaption", Look::Heading), Item("moreInfo"),
