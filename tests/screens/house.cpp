@@ -20,6 +20,16 @@ namespace {
 /// Longer than any transfer takes.
 constexpr std::int64_t Patience = 120'000;
 
+/// The virtual clock starts on an afternoon, and is not run for longer than till night.
+Moment MomentOf(std::int64_t microseconds) {
+  const auto seconds = static_cast<unsigned>(microseconds / 1'000'000);
+  return {.date = {2024, 2, 29},
+          .hour = 14 + seconds / 3600,
+          .minute = seconds / 60 % 60,
+          .second = seconds % 60,
+          .weekday = 5};
+}
+
 }  // namespace
 
 House::House(const std::string& settingsDirectory) {
@@ -33,9 +43,7 @@ House::House(const std::string& settingsDirectory) {
   BusyLoop = [this](std::int64_t last) {
     if (last >= 0) clock_.Hold(last + 1);
   };
-  bkconf::Now = [] {
-    return Moment{.date = {2024, 2, 29}, .hour = 14, .minute = 30, .weekday = 5};
-  };
+  Now = [this] { return MomentOf(clock_.Now()); };
   RunEvent([this] {
     StartSession(
         [this] {
@@ -51,6 +59,7 @@ House::House(const std::string& settingsDirectory) {
 House::~House() {
   for (Tick* tick : LinkTicks) tick->Disable();
   BusyLoop = RunBusyLoop;
+  Now = LocalNow;
 }
 
 void House::Do(const std::function<void()>& event) {

@@ -100,6 +100,11 @@ class CardStyle : public QProxyStyle {
     }
     QProxyStyle::drawControl(element, option, painter, widget);
     const bool focused = option->state.testFlag(State_HasFocus);
+    if (element == CE_PushButton && focused) {
+      constexpr int inset = 3;
+      const QRect ring = option->rect.adjusted(inset, inset, -inset, -inset);
+      DrawFocusRing(*painter, ring, RingColour(*option));
+    }
     if (element == CE_ShapedFrame && focused && qobject_cast<const QAbstractItemView*>(widget)) {
       painter->setPen(Ring(*option));
       painter->drawRect(option->rect.adjusted(0, 0, -1, -1));

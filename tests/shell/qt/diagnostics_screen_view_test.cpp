@@ -334,7 +334,7 @@ class DiagnosticsScreenViewTest : public QObject, private ScreenStage {
 
   void NothingMovesFromOneStateToAnother() {
     ShowState(StateOf("detectors"));
-    Window()->resize(Window()->minimumSizeHint());
+    Window()->resize(LeastSize());
     for (const int kind : {Relay, Master, Alarm}) {
       QMap<QString, QRect> places;
       QSize size;

@@ -31,8 +31,9 @@ class MasterPanelsViewTest : public QObject, private MasterStage {
     QFETCH(int, state);
     Screen& screen = *State(state).screen;
     Show(screen, State(state).open);
-    Window()->resize(Window()->minimumSizeHint());
+    Window()->resize(LeastSize());
     QCoreApplication::processEvents();
+    const QSize least = LeastSize();
     const QSize size = Window()->size();
     const QRect grid = Place(Grid());
     const QRect sentence = Place(Sentence());
@@ -40,7 +41,7 @@ class MasterPanelsViewTest : public QObject, private MasterStage {
     for (const ScreenState& each : States()) {
       if (each.screen != &screen) continue;
       ShowIn(each);
-      QCOMPARE(Window()->minimumSizeHint(), size);
+      QCOMPARE(LeastSize(), least);
       QCOMPARE(Window()->size(), size);
       QCOMPARE(Place(Grid()), grid);
       QCOMPARE(Place(Sentence()), sentence);
@@ -67,7 +68,7 @@ class MasterPanelsViewTest : public QObject, private MasterStage {
     QFETCH(int, state);
     const ScreenState& shown = State(state);
     Show(*shown.screen, shown.open);
-    Window()->resize(Window()->minimumSizeHint());
+    Window()->resize(LeastSize());
     QCoreApplication::processEvents();
     const SentenceVariant& variant = shown.screen == &ContextScreen       ? ContextSentences
                                      : shown.screen == &TimeProgramScreen ? TimeProgramSentences

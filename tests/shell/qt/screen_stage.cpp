@@ -5,6 +5,7 @@
 
 #include "layout_names.h"
 #include "shell/main_window.h"
+#include "shell/qt/content_area.h"
 #include "shell/qt/event_guard.h"
 #include "shell/qt/style.h"
 
@@ -55,7 +56,11 @@ void ScreenStage::Show(Screen& screen, void (*open)()) {
   screen_ = &screen;
   QVERIFY(QTest::qWaitForWindowActive(window_));
   // The desktop of the tests has not the room for it.
-  window_->resize(window_->sizeHint());
+  window_->resize(window_->size().expandedTo(LeastSize()));
+}
+
+QSize ScreenStage::LeastSize() const {
+  return window_->findChild<ContentArea*>()->widget()->minimumSizeHint();
 }
 
 // --- What a person does -------------------------------------------------------------------------
@@ -114,7 +119,7 @@ QString ScreenStage::FieldInFocus() const {
 void ScreenStage::ExpectThatItFitsOnASmallDesktop() {
   const QSize size = Window()->sizeHint();
   QVERIFY(size.width() <= SmallDesktop.width() && size.height() <= SmallDesktop.height());
-  const QSize least = Window()->minimumSizeHint();
+  const QSize least = LeastSize();
   QVERIFY(Window()->width() >= least.width() && Window()->height() >= least.height());
 }
 

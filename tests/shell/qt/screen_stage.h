@@ -44,6 +44,8 @@ class ScreenStage {
 
   ScreenWindow* Window() const { return window_; }
   Screen& Shown() const { return *screen_; }
+  /// Of the window where nothing of it has to be scrolled.
+  QSize LeastSize() const;
   QPushButton* Button(const char* name) const { return Find<QPushButton>(name); }
   QComboBox* List(const char* name) const { return Find<QComboBox>(name); }
   QGroupBox* Panel(const char* name) const { return Find<QGroupBox>(name); }
