@@ -128,28 +128,31 @@ std::string Desktop::Told(const std::vector<std::string>& words) const {
   return ContentOf(file);
 }
 
+std::optional<Widget> Desktop::First(const std::function<bool(const Widget&)>& isTheOne) const {
+  const std::vector<Widget> widgets = reader_->WidgetsUntil(isTheOne);
+  if (widgets.empty() || !isTheOne(widgets.back())) return std::nullopt;
+  return widgets.back();
+}
+
 std::optional<Widget> Desktop::Find(std::string_view role, std::string_view name) const {
-  for (const Widget& widget : Widgets()) {
-    if (widget.role == role && widget.name == name) return widget;
-  }
-  return std::nullopt;
+  return First([=](const Widget& each) { return each.role == role && each.name == name; });
 }
 
 std::optional<Widget> Desktop::FindDescribed(std::string_view role, std::string_view label) const {
-  for (const Widget& widget : Widgets()) {
-    if (widget.role == role && widget.description.starts_with(label)) return widget;
-  }
-  return std::nullopt;
+  return First(
+      [=](const Widget& each) { return each.role == role && each.description.starts_with(label); });
 }
 
 std::optional<Widget> Desktop::FindList(const ListPlace& place) const {
   int number = 0;
-  for (const Widget& widget : Widgets()) {
-    const bool labelled = widget.role == "combo box" && widget.description.starts_with(place.label);
-    const bool inside = place.group.empty() || widget.group == place.group;
-    if (labelled && inside && ++number == place.number) return widget;
-  }
-  return std::nullopt;
+  std::optional<Widget> list;
+  reader_->WidgetsUntil([&](const Widget& each) {
+    const bool labelled = each.role == "combo box" && each.description.starts_with(place.label);
+    const bool inside = place.group.empty() || each.group == place.group;
+    if (labelled && inside && ++number == place.number) list = each;
+    return list.has_value();
+  });
+  return list;
 }
 
 void Desktop::Click(const Widget& widget) const {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -32,6 +33,8 @@ class Desktop {
   Desktop& operator=(const Desktop&) = delete;
 
   std::vector<Widget> Widgets() const { return reader_->Widgets(); }
+  // The widget as it is now; none when it is not on the display any more.
+  std::optional<Widget> LookAgain(const Widget& widget) const { return reader_->LookAgain(widget); }
   // The first widget of that role with that name; none when it is not on the display now.
   std::optional<Widget> Find(std::string_view role, std::string_view name) const;
   // The same for a field without a name of its own, by the label in front of it.
@@ -67,6 +70,8 @@ class Desktop {
   void StartDisplay();
   void StartBus();
   void StartWindowManager();
+  // The first widget that is the one.
+  std::optional<Widget> First(const std::function<bool(const Widget&)>& isTheOne) const;
   // What a program prints that runs to its end.
   std::string Told(const std::vector<std::string>& words) const;
 

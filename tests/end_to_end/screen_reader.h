@@ -3,11 +3,19 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace end_to_end {
+
+// Where a program answers for a widget.
+struct ReaderPlace {
+  QString service;
+  QString path;
+};
 
 struct Widget {
   std::string role;         // "push button", "combo box", "label", ...
@@ -22,6 +30,7 @@ struct Widget {
   bool enabled = false;
   bool focused = false;
   bool checked = false;
+  ReaderPlace place = {};
 };
 
 class ScreenReader {
@@ -35,12 +44,23 @@ class ScreenReader {
 
   // All widgets that are on the display now, each before what is in it. Empty while no program has
   // a window. A widget that goes away during the look is left out.
-  std::vector<Widget> Widgets() const;
+  std::vector<Widget> Widgets() const {
+    return WidgetsUntil([](const Widget&) { return false; });
+  }
+  // The same up to the first widget that is `enough`. What lies deeper than that one, above all the
+  // many cells of tables, is not looked at.
+  std::vector<Widget> WidgetsUntil(const std::function<bool(const Widget&)>& enough) const;
+  // One of them as it is now, by far the cheapest look; none when it is not on the display any
+  // more.
+  std::optional<Widget> LookAgain(const Widget& widget) const;
 
  private:
+  struct Roles;  // of the widgets seen so far
+
   std::string session_;  // names of the connections
   std::string reader_;
   QDBusConnection bus_;
+  std::unique_ptr<Roles> roles_;
 };
 
 }  // namespace end_to_end

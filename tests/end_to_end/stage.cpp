@@ -144,12 +144,17 @@ Widget Stage::Await(std::string_view role, std::string_view name, bool enabled) 
 }
 
 Widget Stage::AwaitStill(std::string_view role, std::string_view name) {
+  constexpr int looks = 3;  // all but the first come after a rest
   Widget widget = Await(role, name);
+  int same = 0;
   const bool still = WaitFor([&] {
     const Widget before = widget;
-    widget = Await(role, name);
-    return widget.x == before.x && widget.y == before.y && widget.width == before.width &&
-           widget.height == before.height;
+    const std::optional<Widget> now = desktop().LookAgain(widget);
+    widget = now && now->name == name && now->enabled ? *now : Await(role, name);
+    const bool stands = widget.x == before.x && widget.y == before.y &&
+                        widget.width == before.width && widget.height == before.height;
+    same = stands ? same + 1 : 0;
+    return same >= looks;
   });
   EXPECT_TRUE(still) << role << " \"" << name << "\" never stands still";
   return widget;

@@ -196,8 +196,10 @@ void TableStage::ExpectWritten(const Conversation& conversation, const Writing& 
   for (const LogUnit& frame : conversation.frames) sent.push_back(frame.text);
   ASSERT_EQ(Differences(sent, wanted), nothing) << writing.command;
   // The log may see a pause shorter, when the module was late to take the frame before it on a busy
-  // machine, but never nearly so short as a tick. Over all frames lateness counts for nothing.
-  for (std::size_t run = 1; run < starts.size(); ++run) {
+  // machine, but a long one never nearly so short as a tick. Over all frames lateness counts for
+  // nothing, and a short pause can only be seen there.
+  const bool isLong = writing.pause > 10 * writing.tick;
+  for (std::size_t run = 1; isLong && run < starts.size(); ++run) {
     const std::size_t first = starts[run];
     EXPECT_GE(Between(conversation.frames[first - 1], conversation.frames[first]),
               writing.pause / 2)
