@@ -128,7 +128,6 @@ class AlarmScreenViewTest : public QObject, private ScreenStage {
   // --- Conditions
   void ADetectorWithoutConditionsHidesThemAllAndMovesNothing() {
     PickRow("detector", 0);
-    const QSize least = LeastSize();
     const QSize size = Window()->size();
     const QRect delay = Place(List("delay"));
     auto* none = Find<QCheckBox>("noCondition");
@@ -301,6 +300,7 @@ class AlarmScreenViewTest : public QObject, private ScreenStage {
     ShowState(States[1]);
     Window()->resize(LeastSize());
     QCoreApplication::processEvents();
+    const QSize least = LeastSize();
     const QSize size = Window()->size();
     const char* fixed[] = {"detector", "triggerAction", "endAction", "note",         "noCondition",
                            "atOnce",   "delay",         "leave",     "settingsGroup"};
