@@ -58,9 +58,9 @@ class CardStyle : public QProxyStyle {
     }
     if (element != PE_FrameGroupBox) {
       QProxyStyle::drawPrimitive(element, option, painter, widget);
-      const bool focused = option->state.testFlag(State_HasFocus);
-      if (element == PE_FrameLineEdit && focused)
+      if (element == PE_FrameLineEdit && option->state.testFlag(State_HasFocus)) {
         DrawFocusRing(*painter, option->rect, Ring(*option));
+      }
       return;
     }
     const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
@@ -78,8 +78,10 @@ class CardStyle : public QProxyStyle {
     const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
     if (control != CC_GroupBox || group == nullptr) {
       QProxyStyle::drawComplexControl(control, option, painter, widget);
-      const bool focused = option->state.testFlag(State_HasFocus);
-      if (control == CC_ComboBox && focused) DrawFocusRing(*painter, option->rect, Ring(*option));
+      const bool ringed = control == CC_ComboBox || control == CC_Slider;
+      if (ringed && option->state.testFlag(State_HasFocus)) {
+        DrawFocusRing(*painter, option->rect, Ring(*option));
+      }
       return;
     }
     painter->save();
