@@ -12,12 +12,6 @@
 namespace bkconf {
 namespace {
 
-constexpr int RelayKind = 0;
-constexpr int TemperatureKind = 2;
-constexpr int RelayDcKind = 4;
-constexpr int AudioKind = 6;
-constexpr int SimulationKind = 7;
-
 /// Images that know no more of the installation than their own letter.
 constexpr KindSet PlainImages{0, 1, 2, 4, 5, 6, 7, 11};
 /// Kinds that the master's list of modules tells of.

@@ -158,17 +158,16 @@ std::string SayAudioValue(const Code& code) {
 }
 
 std::string SayModule(int kind, const Code& code) {
-  constexpr int audio = 6;
-  if (code.Number() > ZonesInBlock) return kind == audio ? SayAudioValue(code) : std::string();
+  if (code.Number() > ZonesInBlock) return kind == AudioKind ? SayAudioValue(code) : std::string();
   for (const OutputSentence& row : OutputSentences) {
     if (row.kind == kind) return SayOutput(row, code);
   }
   switch (kind) {
-    case 2:
+    case TemperatureKind:
       return SayTemperature(code);
-    case audio:
+    case AudioKind:
       return SayZone(code);
-    case 7:
+    case SimulationKind:
       return SaySimulation(code);
     default:
       return {};

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "image/kind_set.h"
 #include "image/tables.h"
 #include "text/text.h"
 

@@ -19,7 +19,7 @@ char TableDigit() {
 /// The read that a line belongs to, or null. Kinds with a single table have no other lines: theirs
 /// are cells whatever the command.
 const ReadRow* PendingRead() {
-  constexpr KindSet hasOneTable{6, 7, 8};
+  constexpr KindSet hasOneTable{AudioKind, SimulationKind, IrKind};
   const bool always = hasOneTable.Contains(ActiveCode());
   return FindReadRow(ActiveCode(), always ? std::string(ReadBase) : PendingCommand.Text());
 }

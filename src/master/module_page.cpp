@@ -44,7 +44,6 @@ ModulePageFields::ModulePageFields(Screen& ofScreen)
 
 namespace {
 
-constexpr int MasterKind = 9;
 constexpr int LongestCorrection = 15;
 /// Cells of ButtonImage.
 constexpr int DownCell = 120;

@@ -62,7 +62,6 @@ namespace {
 constexpr int Buttons = 20;
 constexpr int TimeCell = 122;
 constexpr int HalfSeconds = 8;
-constexpr int Master = 9;
 
 /// Whether the user can work in that look of the screen, or part of it. What is hidden writes
 /// nothing, whoever presses it.
@@ -98,7 +97,7 @@ void FillList() {
 
 void ShowDescription(int row, int column) {
   const std::string& code = ButtonScreen.buttons.At(row, column);
-  ButtonScreen.description.caption = ActiveCode() == Master
+  ButtonScreen.description.caption = ActiveCode() == MasterKind
                                          ? MasterActionSentence(code, MasterSentences)
                                          : OwnActionSentence(code);
 }
@@ -193,9 +192,9 @@ struct BaseFunctions {
 };
 
 constexpr auto BaseRows = std::to_array<BaseFunctions>({
-    {{1}, 4, 4},
-    {{11}, 8, 4},
-    {{0, 4, 5, 6, 7, 8}, 12, 0},
+    {{DimKind}, 4, 4},
+    {{LumenzaKind}, 8, 4},
+    {{RelayKind, RelayDcKind, AlarmKind, AudioKind, SimulationKind, IrKind}, 12, 0},
 });
 
 void AssignBase(int column, int count) {

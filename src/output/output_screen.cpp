@@ -41,8 +41,7 @@ namespace {
 constexpr int Outputs = 12;
 constexpr int Channels = 4;
 constexpr int LumenzaOutputs = 8;
-constexpr int LumenzaKind = 11;
-constexpr KindSet Dimmers{1, LumenzaKind};
+constexpr KindSet Dimmers{DimKind, LumenzaKind};
 
 /// Cells of ButtonImage, of the first output.
 constexpr int FunctionCell = 123;

@@ -126,7 +126,7 @@ const std::vector<CellField>& CellFields() {
   static const std::vector<CellField> fields = {
       {&MainWindow.roomCountLabel,
        &MainWindow.roomCount,
-       {2},
+       {TemperatureKind},
        {&TempHeader, 1},
        1,
        8,
@@ -134,7 +134,7 @@ const std::vector<CellField>& CellFields() {
        &TempHeaderDirty},
       {&MainWindow.toleranceLabel,
        &MainWindow.tolerance,
-       {2},
+       {TemperatureKind},
        {&TempHeader, 2},
        2,
        255,
