@@ -5,6 +5,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "image/table.h"
 
@@ -29,7 +30,11 @@ bool HoldsAction(const Cell& target);
 bool HoldsModuleOrContextAction(const Cell& target);
 
 /// The last two characters of a number's text: a code has room for two digits.
-std::string TwoDigits(double number);
+std::string LastTwo(double number);
+/// The number with two digits, as "07"; of a larger one the last two.
+std::string Padded(double number);
+/// What the lists of Corvela codes offer, "01" to "99".
+std::vector<std::string> CodeNumbers();
 
 /// How the last two characters come from the third cell.
 enum class ValueForm {

@@ -83,18 +83,8 @@ std::optional<int> ListedKindOf(char letter) {
   return std::nullopt;
 }
 
-std::string Say(TextId id) {
-  return std::string(Text(id));
-}
-
-std::vector<std::string> CodeNumbers() {
-  std::vector<std::string> items;
-  for (int code = 1; code <= Codes; ++code) items.push_back(TwoDigits(100 + code));
-  return items;
-}
-
 template <typename Ids>
-std::vector<std::string> Say(const Ids& ids) {
+std::vector<std::string> SayEach(const Ids& ids) {
   std::vector<std::string> items;
   for (const TextId id : ids) items.push_back(Say(id));
   return items;
@@ -363,7 +353,7 @@ void ActionPicker::OfferZones() {
 void ActionPicker::OfferZoneActions() {
   value.Hide();
   action.Offer(Text(variant_.action),
-               mainZone.Chosen() ? Say(MainZoneActions) : Say(SecondaryZoneActions));
+               mainZone.Chosen() ? SayEach(MainZoneActions) : SayEach(SecondaryZoneActions));
 }
 
 void ActionPicker::OfferSimulation() {
@@ -407,7 +397,7 @@ void ActionPicker::PickAction() {
 // --- The cells ----------------------------------------------------------------------------------
 
 Cell ActionPicker::Number(int number) const {
-  if (variant_.form == StoredForm::TwoDigitTexts) return TwoDigits(100 + number);
+  if (variant_.form == StoredForm::TwoDigitTexts) return Padded(number);
   return number;
 }
 

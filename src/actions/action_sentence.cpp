@@ -90,10 +90,6 @@ constexpr auto AudioBlocks = std::to_array<AudioBlock>({
     {80, true, TextId::WordToBalance},
 });
 
-std::string Say(TextId id) {
-  return std::string(Text(id));
-}
-
 /// "Relaismodule 'A':  ", the module in front of what it is to do.
 std::string Prefix(TextId module, const Code& code) {
   return Say(module) + code.letter + "':  ";

@@ -21,8 +21,7 @@ std::string LastButtonTime;
 
 std::string ClockText() {
   const Moment now = Now();
-  const auto two = [](unsigned part) { return TwoDigits(100 + part); };
-  return two(now.hour) + ":" + two(now.minute) + ":" + two(now.second);
+  return Padded(now.hour) + ":" + Padded(now.minute) + ":" + Padded(now.second);
 }
 
 void TakeLine() {

@@ -33,10 +33,6 @@ bool asked = false;
 Moment sent;
 int sendStep = 0;
 
-std::string Two(unsigned number) {
-  return TwoDigits(100 + number);
-}
-
 std::string Characters(std::size_t first, std::size_t last) {
   return std::string(CharactersOfLine(first, last));
 }
@@ -49,9 +45,9 @@ void Blank(ClockFields& clock) {
 }
 
 void ShowMoment(ClockFields& clock, const Moment& moment) {
-  clock.hour.caption = Two(moment.hour) + ":" + Two(moment.minute);
-  clock.date.caption =
-      Two(moment.date.day) + "-" + Two(moment.date.month) + "-" + std::to_string(moment.date.year);
+  clock.hour.caption = Padded(moment.hour) + ":" + Padded(moment.minute);
+  clock.date.caption = Padded(moment.date.day) + "-" + Padded(moment.date.month) + "-" +
+                       std::to_string(moment.date.year);
   clock.weekday.caption = std::to_string(moment.weekday);
 }
 
@@ -59,7 +55,7 @@ void ShowMoment(ClockFields& clock, const Moment& moment) {
 void ShowPcClock() {
   const Moment now = Now();
   ShowMoment(DiagnosticsScreen.clock.pc, now);
-  DiagnosticsScreen.clock.pc.hour.caption += ":" + Two(now.second);
+  DiagnosticsScreen.clock.pc.hour.caption += ":" + Padded(now.second);
 }
 
 // --- The master's clock -------------------------------------------------------------------------
@@ -140,12 +136,12 @@ void SendNextLine() {
   AdvanceTestBar();
   if (sendStep == 1) {
     sent = Now();
-    Port->Write("T" + Two(sent.hour) + Two(sent.minute) + std::to_string(sent.weekday) +
+    Port->Write("T" + Padded(sent.hour) + Padded(sent.minute) + std::to_string(sent.weekday) +
                 std::string(LineEnd));
     AwaitNextLine();
     return;
   }
-  Port->Write("T" + Two(sent.date.day) + Two(sent.date.month) + Two(sent.date.year) +
+  Port->Write("T" + Padded(sent.date.day) + Padded(sent.date.month) + Padded(sent.date.year) +
               std::string(LineEnd));
   ShowMoment(DiagnosticsScreen.clock.master, sent);
   Show(DiagnosticsScreen.clock.synchronise.caption, TextId::Ok);

@@ -176,9 +176,8 @@ void FinishUpdate() {
 /// In the range that the code tells, whatever the level would lie in.
 std::string UpdateFrame(int detector) {
   const int code = DetectorCode(detector).Whole();
-  return "A" + TwoDigits(100 + detector) +
-         WireLevel(DetectorLevel(detector).Whole(), code / CodeBase) + TwoDigits(100 + code) +
-         std::string(LineEnd);
+  return "A" + Padded(detector) + WireLevel(DetectorLevel(detector).Whole(), code / CodeBase) +
+         Padded(code) + std::string(LineEnd);
 }
 
 void SendNextDetector() {

@@ -66,10 +66,6 @@ constexpr auto Functions = std::to_array<OutputFunction>({
     {TextId::LockedWith, false, true, TextId::LockedWithOutput},
 });
 
-std::string Say(TextId id) {
-  return std::string(Text(id));
-}
-
 const OutputFunction* FindFunction(const Cell& code) {
   const int place = code.WholeNumber().value_or(-1);
   const bool known = place >= 0 && place < static_cast<int>(Functions.size());

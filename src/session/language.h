@@ -23,6 +23,11 @@ inline std::string_view Text(TextId id) {
   return {};
 }
 
+/// The same as a string of its own, to put together with others.
+inline std::string Say(TextId id) {
+  return std::string(Text(id));
+}
+
 /// Puts the text into a caption or status. While `Language` is neither 1 nor 2 what stands there
 /// stays, except that a text which is the same in both languages needs no language.
 inline void Show(std::string& caption, TextId id) {

@@ -111,7 +111,7 @@ void ShowLetter() {
 void ShowOutput() {
   constexpr int twoDigits = 9;
   const double place = OutputCell().Number();
-  Ids().output.Show(place < twoDigits ? TwoDigits(101 + place) : PlainText(place + 1));
+  Ids().output.Show(place < twoDigits ? LastTwo(101 + place) : PlainText(place + 1));
 }
 
 /// The text tells where on this module; the fields tell where on another one.
@@ -194,7 +194,7 @@ void LoadRoomIds() {
   Ids().letter.items = LetterItems('A', 'R');
   Ids().output.items.clear();
   for (int output = 1; output <= Outputs; ++output) {
-    Ids().output.items.push_back(TwoDigits(100 + output));
+    Ids().output.items.push_back(Padded(output));
   }
   Ids().room.onPick = PickRoom;
   Ids().valve.onPick = PickValve;

@@ -87,8 +87,8 @@ Colour ColourOf(int degrees, Colour usual) {
 
 /// Both ends of neighbouring periods show the boundary between them.
 void ShowBoundary(int boundary, Colour colour) {
-  const std::string text = TwoDigits(100 + Counted(HourCell(boundary))) + ":" +
-                           TwoDigits(100 + Counted(MinuteCell(boundary)));
+  const std::string text =
+      Padded(Counted(HourCell(boundary))) + ":" + Padded(Counted(MinuteCell(boundary)));
   for (LabelField* label : {&Row(boundary).from, &Row(boundary - 1).to}) {
     label->caption = text;
     label->textColour = colour;

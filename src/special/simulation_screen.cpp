@@ -115,7 +115,7 @@ void ShowParticipant(int participant) {
   std::string text(FreeText);
   if (!IsFree(participant)) {
     text = CharacterOf(TargetCell(participant).Whole()) +
-           TwoDigits(IndexCell(participant).Number() + 101);
+           LastTwo(IndexCell(participant).Number() + 101);
   }
   SimulationScreen.participants.Put(participant / GridSize + 1, participant % GridSize, text);
 }
@@ -180,12 +180,6 @@ void OfferNumbers(TextId type, TextId caption, std::vector<std::string> items) {
   SimulationScreen.numberLabel.caption = Text(caption);
   SimulationScreen.number.items = std::move(items);
   SimulationScreen.numberLabel.visible = SimulationScreen.number.visible = true;
-}
-
-std::vector<std::string> CodeNumbers() {
-  std::vector<std::string> items;
-  for (int code = 1; code <= MostCodes; ++code) items.push_back(TwoDigits(100 + code));
-  return items;
 }
 
 /// A module of this kind knows nothing of the installation: the type is chosen by hand. It is no
@@ -285,7 +279,7 @@ void FillLists() {
   SimulationScreen.type.items.clear();
   for (const PickerType& each : Types) SimulationScreen.type.items.emplace_back(Text(each.name));
   for (int each = 0; each < Switches; ++each) {
-    SimulationScreen.switches[static_cast<std::size_t>(each)]->caption = TwoDigits(101 + each);
+    SimulationScreen.switches[static_cast<std::size_t>(each)]->caption = Padded(each + 1);
   }
   SimulationScreen.participants.columns.assign(GridSize, {"", 1});
   SimulationScreen.participants.Resize(GridSize);
