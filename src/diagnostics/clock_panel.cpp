@@ -1,6 +1,5 @@
 #include "diagnostics/clock_panel.h"
 
-#include <array>
 #include <string>
 
 #include "actions/action_code.h"
@@ -154,19 +153,13 @@ Tick ClockSend{"ClockSend", 20, SendNextLine};
 
 void LoadClockTest() {
   ClockPanel& panel = DiagnosticsScreen.clock;
-  struct Caption {
-    std::string& text;
-    TextId id;
-  };
-  for (const Caption& row : std::to_array<Caption>({
-           {panel.group.caption, TextId::ClockPanel},
-           {panel.master.group.caption, TextId::MasterClock},
-           {panel.pc.group.caption, TextId::ComputerClock},
-           {panel.ask.caption, TextId::AskClock},
-           {panel.synchronise.caption, TextId::SetClock},
-       })) {
-    Show(row.text, row.id);
-  }
+  ShowAll({
+      {panel.group.caption, TextId::ClockPanel},
+      {panel.master.group.caption, TextId::MasterClock},
+      {panel.pc.group.caption, TextId::ComputerClock},
+      {panel.ask.caption, TextId::AskClock},
+      {panel.synchronise.caption, TextId::SetClock},
+  });
   for (ClockFields* clock : {&panel.master, &panel.pc}) {
     Show(clock->hourLabel.caption, TextId::ClockHour);
     Show(clock->dateLabel.caption, TextId::ClockDate);

@@ -51,22 +51,16 @@ LightProgramScreenFields::LightProgramScreenFields()
       lightEnd(*this, "lightEnd") {}
 
 void LightProgramScreenFields::Load() {
-  struct Caption {
-    std::string& text;
-    TextId id;
-  };
-  for (const Caption& row : std::to_array<Caption>({
-           {lightToDark.caption, TextId::LightToDark},
-           {darkToLight.caption, TextId::DarkToLight},
-           {levelGroup.caption, TextId::LevelFrame},
-           {levelLabel.caption, TextId::LevelHeading},
-           {levelLabel.toolTip, TextId::LevelHint},
-           {level.toolTip, TextId::LevelHint},
-           {darkEnd.caption, TextId::DarkEnd},
-           {lightEnd.caption, TextId::LightEnd},
-       })) {
-    ::bkconf::Show(row.text, row.id);
-  }
+  ShowAll({
+      {lightToDark.caption, TextId::LightToDark},
+      {darkToLight.caption, TextId::DarkToLight},
+      {levelGroup.caption, TextId::LevelFrame},
+      {levelLabel.caption, TextId::LevelHeading},
+      {levelLabel.toolTip, TextId::LevelHint},
+      {level.toolTip, TextId::LevelHint},
+      {darkEnd.caption, TextId::DarkEnd},
+      {lightEnd.caption, TextId::LightEnd},
+  });
   level.items.clear();
   for (int each = 1; each <= HighestLevel; ++each) level.items.push_back(Padded(each));
   LoadList({{std::string(Text(TextId::DirectionColumn)), 1500},

@@ -219,32 +219,26 @@ void PickCorrection(ListField& list, int cell, ListField& other, int otherCell) 
 // --- The page -----------------------------------------------------------------------------------
 
 void ShowCaptions() {
-  struct Caption {
-    std::string* text;
-    TextId id;
-  };
-  for (const Caption& row : std::to_array<Caption>({
-           {&fields->page.caption, TextId::ConfigurationTitle},
-           {&fields->listLabel.caption, TextId::PresentModules},
-           {&fields->modules.toolTip, TextId::EditHint},
-           {&fields->scan.caption, TextId::Scan},
-           {&fields->clockGroup.caption, TextId::ClockGroup},
-           {&fields->clockText.caption, TextId::ClockText},
-           {&fields->downLabel.caption, TextId::MinutesDown},
-           {&fields->upLabel.caption, TextId::MinutesUp},
-           {&fields->addGroup.caption, TextId::AddTitle},
-           {&fields->addHeading.caption, TextId::ModuleTypeHeading},
-           {&fields->addLetterLabel.caption, TextId::ModuleCaption},
-           {&fields->addTypeLabel.caption, TextId::TypeCaption},
-           {&fields->addConfirm.caption, TextId::Confirm},
-           {&fields->addLeave.caption, TextId::Leave},
-           {&fields->deleteGroup.caption, TextId::DeleteTitle},
-           {&fields->deleteQuestion.caption, TextId::DeleteModule},
-           {&fields->deleteYes.caption, TextId::Yes},
-           {&fields->deleteNo.caption, TextId::No},
-       })) {
-    Show(*row.text, row.id);
-  }
+  ShowAll({
+      {fields->page.caption, TextId::ConfigurationTitle},
+      {fields->listLabel.caption, TextId::PresentModules},
+      {fields->modules.toolTip, TextId::EditHint},
+      {fields->scan.caption, TextId::Scan},
+      {fields->clockGroup.caption, TextId::ClockGroup},
+      {fields->clockText.caption, TextId::ClockText},
+      {fields->downLabel.caption, TextId::MinutesDown},
+      {fields->upLabel.caption, TextId::MinutesUp},
+      {fields->addGroup.caption, TextId::AddTitle},
+      {fields->addHeading.caption, TextId::ModuleTypeHeading},
+      {fields->addLetterLabel.caption, TextId::ModuleCaption},
+      {fields->addTypeLabel.caption, TextId::TypeCaption},
+      {fields->addConfirm.caption, TextId::Confirm},
+      {fields->addLeave.caption, TextId::Leave},
+      {fields->deleteGroup.caption, TextId::DeleteTitle},
+      {fields->deleteQuestion.caption, TextId::DeleteModule},
+      {fields->deleteYes.caption, TextId::Yes},
+      {fields->deleteNo.caption, TextId::No},
+  });
 }
 
 void LayOut() {

@@ -290,30 +290,24 @@ std::string ClearCaption(TextId which) {
 }
 
 void ShowCaptions() {
-  struct Caption {
-    Field* field;
-    TextId text;
-  };
-  for (const Caption& row : std::to_array<Caption>({
-           {&ButtonScreen.listLabel, TextId::ButtonList},
-           {&ButtonScreen.listHint, TextId::ButtonListHint},
-           {&ButtonScreen.chooserLabel, TextId::ButtonChooser},
-           {&ButtonScreen.firstGroup, TextId::FirstFunction},
-           {&ButtonScreen.secondGroup, TextId::SecondFunction},
-           {&ButtonScreen.noSecond, TextId::NoneChosen},
-           {&ButtonScreen.store, TextId::StoreFunction},
-           {&ButtonScreen.base, TextId::BaseFunctions},
-           {&ButtonScreen.baseGroup, TextId::BaseFunctionsTitle},
-           {&ButtonScreen.baseQuestion, TextId::BaseFunctionsQuestion},
-           {&ButtonScreen.baseYes, TextId::Yes},
-           {&ButtonScreen.baseNo, TextId::No},
-           {&ButtonScreen.timeLabel, TextId::SecondFunctionTimeLabel},
-           {&ButtonScreen.seconds, TextId::Seconds},
-           {&ButtonScreen.timeHelp, TextId::SecondFunctionTimeHelp},
-           {&ButtonScreen.leave, TextId::Leave},
-       })) {
-    Show(row.field->caption, row.text);
-  }
+  ShowAll({
+      {ButtonScreen.listLabel.caption, TextId::ButtonList},
+      {ButtonScreen.listHint.caption, TextId::ButtonListHint},
+      {ButtonScreen.chooserLabel.caption, TextId::ButtonChooser},
+      {ButtonScreen.firstGroup.caption, TextId::FirstFunction},
+      {ButtonScreen.secondGroup.caption, TextId::SecondFunction},
+      {ButtonScreen.noSecond.caption, TextId::NoneChosen},
+      {ButtonScreen.store.caption, TextId::StoreFunction},
+      {ButtonScreen.base.caption, TextId::BaseFunctions},
+      {ButtonScreen.baseGroup.caption, TextId::BaseFunctionsTitle},
+      {ButtonScreen.baseQuestion.caption, TextId::BaseFunctionsQuestion},
+      {ButtonScreen.baseYes.caption, TextId::Yes},
+      {ButtonScreen.baseNo.caption, TextId::No},
+      {ButtonScreen.timeLabel.caption, TextId::SecondFunctionTimeLabel},
+      {ButtonScreen.seconds.caption, TextId::Seconds},
+      {ButtonScreen.timeHelp.caption, TextId::SecondFunctionTimeHelp},
+      {ButtonScreen.leave.caption, TextId::Leave},
+  });
   ButtonScreen.clearFirst.caption = ClearCaption(TextId::ClearFirstFunctions);
   ButtonScreen.clearSecond.caption = ClearCaption(TextId::ClearSecondFunctions);
 }

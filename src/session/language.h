@@ -1,6 +1,7 @@
 // Texts in the language of the session. All code that shows a text comes here.
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -36,6 +37,17 @@ inline void Show(std::string& caption, TextId id) {
   } else if (Language.Number() == Dutch || Language.Number() == French) {
     caption = Text(id);
   }
+}
+
+/// A caption, tool tip or title, and the text that it shows.
+struct CaptionRow {
+  std::string& text;
+  TextId id;
+};
+
+/// Shows each of them.
+inline void ShowAll(std::initializer_list<CaptionRow> captions) {
+  for (const CaptionRow& row : captions) Show(row.text, row.id);
 }
 
 }  // namespace bkconf

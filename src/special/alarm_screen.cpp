@@ -210,26 +210,20 @@ void Store() {
 // --- Opening ------------------------------------------------------------------------------------
 
 void ShowCaptions() {
-  struct Caption {
-    Field* field;
-    TextId text;
-  };
-  for (const Caption& row : std::to_array<Caption>({
-           {&AlarmScreen.listLabel, TextId::DetectorsTitle},
-           {&AlarmScreen.settingsGroup, TextId::DetectorSettings},
-           {&AlarmScreen.triggerGroup, TextId::TriggerAction},
-           {&AlarmScreen.endGroup, TextId::EndAction},
-           {&AlarmScreen.atOnce, TextId::AtOnce},
-           {&AlarmScreen.delayLabel, TextId::AfterDelay},
-           {&AlarmScreen.delayUnit, TextId::DelayMinutes},
-           {&AlarmScreen.editGroup, TextId::EditTitle},
-           {&AlarmScreen.noAction, TextId::NoAction},
-           {&AlarmScreen.editConfirm, TextId::Confirm},
-           {&AlarmScreen.editLeave, TextId::Leave},
-           {&AlarmScreen.leave, TextId::Leave},
-       })) {
-    Show(row.field->caption, row.text);
-  }
+  ShowAll({
+      {AlarmScreen.listLabel.caption, TextId::DetectorsTitle},
+      {AlarmScreen.settingsGroup.caption, TextId::DetectorSettings},
+      {AlarmScreen.triggerGroup.caption, TextId::TriggerAction},
+      {AlarmScreen.endGroup.caption, TextId::EndAction},
+      {AlarmScreen.atOnce.caption, TextId::AtOnce},
+      {AlarmScreen.delayLabel.caption, TextId::AfterDelay},
+      {AlarmScreen.delayUnit.caption, TextId::DelayMinutes},
+      {AlarmScreen.editGroup.caption, TextId::EditTitle},
+      {AlarmScreen.noAction.caption, TextId::NoAction},
+      {AlarmScreen.editConfirm.caption, TextId::Confirm},
+      {AlarmScreen.editLeave.caption, TextId::Leave},
+      {AlarmScreen.leave.caption, TextId::Leave},
+  });
 }
 
 void FillLists() {

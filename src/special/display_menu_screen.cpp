@@ -448,31 +448,25 @@ void Close() {
 }
 
 void ShowCaptions() {
-  struct Caption {
-    Field* field;
-    TextId text;
-  };
-  for (const Caption& row : std::to_array<Caption>({
-           {&DisplayMenuScreen.frame, TextId::MainScreen},
-           {&DisplayMenuScreen.nameLabel, TextId::DescriptionColumn},
-           {&DisplayMenuScreen.categoryLabel, TextId::ScreenType},
-           {&DisplayMenuScreen.scrollUp, TextId::Scroll},
-           {&DisplayMenuScreen.scrollDown, TextId::Scroll},
-           {&DisplayMenuScreen.mainArrowA, TextId::KeyArrowA},
-           {&DisplayMenuScreen.mainArrowB, TextId::KeyArrowB},
-           {&DisplayMenuScreen.moduleHead, TextId::ModuleAddress},
-           {&DisplayMenuScreen.outputHead, TextId::OutputCaption},
-           {&DisplayMenuScreen.arrowA, TextId::KeyArrowA},
-           {&DisplayMenuScreen.arrowB, TextId::KeyArrowB},
-           {&DisplayMenuScreen.outputsGroup, TextId::AutomationOutputs},
-           {&DisplayMenuScreen.open.label, TextId::OpenOutput},
-           {&DisplayMenuScreen.close.label, TextId::CloseOutput},
-           {&DisplayMenuScreen.ok, TextId::Ok},
-           {&DisplayMenuScreen.outputsLeave, TextId::Leave},
-           {&DisplayMenuScreen.leave, TextId::Leave},
-       })) {
-    Show(row.field->caption, row.text);
-  }
+  ShowAll({
+      {DisplayMenuScreen.frame.caption, TextId::MainScreen},
+      {DisplayMenuScreen.nameLabel.caption, TextId::DescriptionColumn},
+      {DisplayMenuScreen.categoryLabel.caption, TextId::ScreenType},
+      {DisplayMenuScreen.scrollUp.caption, TextId::Scroll},
+      {DisplayMenuScreen.scrollDown.caption, TextId::Scroll},
+      {DisplayMenuScreen.mainArrowA.caption, TextId::KeyArrowA},
+      {DisplayMenuScreen.mainArrowB.caption, TextId::KeyArrowB},
+      {DisplayMenuScreen.moduleHead.caption, TextId::ModuleAddress},
+      {DisplayMenuScreen.outputHead.caption, TextId::OutputCaption},
+      {DisplayMenuScreen.arrowA.caption, TextId::KeyArrowA},
+      {DisplayMenuScreen.arrowB.caption, TextId::KeyArrowB},
+      {DisplayMenuScreen.outputsGroup.caption, TextId::AutomationOutputs},
+      {DisplayMenuScreen.open.label.caption, TextId::OpenOutput},
+      {DisplayMenuScreen.close.label.caption, TextId::CloseOutput},
+      {DisplayMenuScreen.ok.caption, TextId::Ok},
+      {DisplayMenuScreen.outputsLeave.caption, TextId::Leave},
+      {DisplayMenuScreen.leave.caption, TextId::Leave},
+  });
 }
 
 void LoadLine(int line) {

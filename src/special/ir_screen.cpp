@@ -170,20 +170,14 @@ void LayOutRemote() {
 }
 
 void ShowCaptions() {
-  struct Caption {
-    Field* field;
-    TextId text;
-  };
-  for (const Caption& row : std::to_array<Caption>({
-           {&IrScreen.instruction, TextId::IrInstruction},
-           {&IrScreen.editGroup, TextId::IrEdit},
-           {&IrScreen.rowLabel, TextId::IrRow},
-           {&IrScreen.copy, TextId::CopyToAllIr},
-           {&IrScreen.store, TextId::IrStore},
-           {&IrScreen.leave, TextId::Leave},
-       })) {
-    Show(row.field->caption, row.text);
-  }
+  ShowAll({
+      {IrScreen.instruction.caption, TextId::IrInstruction},
+      {IrScreen.editGroup.caption, TextId::IrEdit},
+      {IrScreen.rowLabel.caption, TextId::IrRow},
+      {IrScreen.copy.caption, TextId::CopyToAllIr},
+      {IrScreen.store.caption, TextId::IrStore},
+      {IrScreen.leave.caption, TextId::Leave},
+  });
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
 // The identities of the sensors and LEDs of the rooms, and where their valves are connected.
-#include <array>
 
 #include "actions/action_code.h"
 #include "image/tables.h"
@@ -164,23 +163,17 @@ void BlankValve() {
 }
 
 void ShowCaptions() {
-  struct Caption {
-    Field* field;
-    TextId text;
-  };
-  for (const Caption& row : std::to_array<Caption>({
-           {&Ids().group, TextId::RoomIdsTitle},
-           {&Ids().idsGroup, TextId::IdNumbers},
-           {&Ids().sensor.label, TextId::SensorId},
-           {&Ids().led.label, TextId::LedId},
-           {&Ids().valvesGroup, TextId::ValveOutputs},
-           {&Ids().own, TextId::ThisModuleOption},
-           {&Ids().other, TextId::BusOption},
-           {&Ids().letterLabel, TextId::ModuleAddress},
-           {&Ids().outputLabel, TextId::OutputCaption},
-       })) {
-    Show(row.field->caption, row.text);
-  }
+  ShowAll({
+      {Ids().group.caption, TextId::RoomIdsTitle},
+      {Ids().idsGroup.caption, TextId::IdNumbers},
+      {Ids().sensor.label.caption, TextId::SensorId},
+      {Ids().led.label.caption, TextId::LedId},
+      {Ids().valvesGroup.caption, TextId::ValveOutputs},
+      {Ids().own.caption, TextId::ThisModuleOption},
+      {Ids().other.caption, TextId::BusOption},
+      {Ids().letterLabel.caption, TextId::ModuleAddress},
+      {Ids().outputLabel.caption, TextId::OutputCaption},
+  });
 }
 
 }  // namespace

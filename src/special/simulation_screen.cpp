@@ -250,26 +250,20 @@ void DoubleClick(int row, int column) {
 // --- Opening ------------------------------------------------------------------------------------
 
 void ShowCaptions() {
-  struct Caption {
-    Field* field;
-    TextId text;
-  };
-  for (const Caption& row : std::to_array<Caption>({
-           {&SimulationScreen.frame, TextId::SimulationSettingsFrame},
-           {&SimulationScreen.conditionsGroup, TextId::ConditionsFrame},
-           {&SimulationScreen.sensitivityGroup, TextId::Sensitivity},
-           {&SimulationScreen.stateGroup, TextId::StateFrame},
-           {&SimulationScreen.participantsGroup, TextId::Participants},
-           {&SimulationScreen.editGroup, TextId::EditTitle},
-           {&SimulationScreen.heading, TextId::ModuleTypeHeading},
-           {&SimulationScreen.letterLabel, TextId::ModuleCaption},
-           {&SimulationScreen.typeLabel, TextId::TypeCaption},
-           {&SimulationScreen.editConfirm, TextId::Confirm},
-           {&SimulationScreen.editLeave, TextId::Leave},
-           {&SimulationScreen.leave, TextId::Leave},
-       })) {
-    Show(row.field->caption, row.text);
-  }
+  ShowAll({
+      {SimulationScreen.frame.caption, TextId::SimulationSettingsFrame},
+      {SimulationScreen.conditionsGroup.caption, TextId::ConditionsFrame},
+      {SimulationScreen.sensitivityGroup.caption, TextId::Sensitivity},
+      {SimulationScreen.stateGroup.caption, TextId::StateFrame},
+      {SimulationScreen.participantsGroup.caption, TextId::Participants},
+      {SimulationScreen.editGroup.caption, TextId::EditTitle},
+      {SimulationScreen.heading.caption, TextId::ModuleTypeHeading},
+      {SimulationScreen.letterLabel.caption, TextId::ModuleCaption},
+      {SimulationScreen.typeLabel.caption, TextId::TypeCaption},
+      {SimulationScreen.editConfirm.caption, TextId::Confirm},
+      {SimulationScreen.editLeave.caption, TextId::Leave},
+      {SimulationScreen.leave.caption, TextId::Leave},
+  });
   Show(SimulationScreen.participants.toolTip, TextId::EditHint);
 }
 
