@@ -20,9 +20,6 @@
 namespace bkconf {
 namespace {
 
-/// Cells of AlarmImage.
-constexpr int CountCell = 123;
-constexpr int VersionCell = 148;
 /// Modules from this version on tell what they measure.
 constexpr double FirstMeasuringVersion = 65;
 
@@ -46,12 +43,12 @@ Cell& DetectorCode(int detector) {
 }
 
 bool Measures() {
-  return AlarmImage[VersionCell].Number() >= FirstMeasuringVersion;
+  return CellAt(FindKind(AlarmKind)->version).Number() >= FirstMeasuringVersion;
 }
 
 /// Detectors in use; only these have fields.
 int Detectors() {
-  return std::clamp(AlarmImage[CountCell].Whole(), 0, MostDetectors);
+  return std::clamp(CellAt(DetectorsInUse).Whole(), 0, MostDetectors);
 }
 
 DetectorFields& Fields(int detector) {

@@ -24,6 +24,14 @@ struct CellPlace {
   int index = 0;
 };
 
+/// The cell of a place that has one.
+inline Cell& CellAt(const CellPlace& place) {
+  return (*place.table)[place.index];
+}
+
+/// How many detectors an alarm module watches.
+inline constexpr CellPlace DetectorsInUse{&AlarmImage, 123};
+
 struct ModuleKind {
   int code;
   std::string_view identity;  ///< what the module's identity line begins with

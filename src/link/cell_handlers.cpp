@@ -7,6 +7,7 @@
 #include "link/rx_line.h"
 #include "link/transfer.h"
 #include "session/language.h"
+#include "session/resets.h"
 
 namespace bkconf {
 namespace {
@@ -26,9 +27,9 @@ const ReadRow* PendingRead() {
 
 /// What only some kinds do when their base table is complete.
 void FinishBaseRead() {
-  constexpr KindSet comparesVersion{0, 1, 4, 11};
-  if (comparesVersion.Contains(ActiveCode())) ModuleVersion = ButtonImage[163];
-  if (ActiveCode() == 9) {
+  if (OutputKinds.Contains(ActiveCode())) ModuleVersion = CellAt(ActiveKind()->version);
+  KeepCopies();
+  if (ActiveCode() == MasterKind) {
     MasterBaseDirty = MasterContextsDirty = MasterTimeDirty = MasterLightDirty = 0;
     Raise(LinkEvent::ModuleListRead);
   }
@@ -90,7 +91,6 @@ void HandleTemperatureLine() {
     if (live && !SentByUser()) Raise(LinkEvent::LiveTemperature);
     if (index != (live ? LastLiveTemperature : row.lastIndex)) return;
     if (row.table == &TempHeader) {
-      TempRoomCount = TempHeader[1];
       FinishBaseRead();
     } else {
       CloseRead(LinkEvent::TemperatureRead);

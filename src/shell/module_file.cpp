@@ -38,9 +38,7 @@ void SetFlags() {
     Set(flags->loaded);
     Set(flags->dirty);
   }
-  for (const KeptCopy& kept : KeptCopies) {
-    if (kept.kind == ActiveCode()) *kept.copy = (*kept.original.table)[kept.original.index];
-  }
+  KeepCopies();
   for (const WorkTable& work : WorkTables) {
     if (work.kind == ActiveCode()) work.table->Fill(0, work.table->Size() - 1, EmptyCell);
   }

@@ -194,7 +194,7 @@ void SessionTest::StartWithImage(int kind, int language, char letter) {
   ActiveModuleType = kind;
   const ModuleKind& row = *FindKind(kind);
   for (int cell = 0; cell < row.version.table->Size(); ++cell) (*row.version.table)[cell] = 42;
-  if (row.address.table != nullptr) (*row.address.table)[row.address.index] = int{letter};
+  if (row.address.table != nullptr) CellAt(row.address) = int{letter};
   ShowImage(Origin::File);
 }
 
