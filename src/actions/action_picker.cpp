@@ -262,7 +262,7 @@ void ActionPicker::PickLetter() {
     OfferCodes();
   } else if (!PlainImages.Contains(ActiveCode())) {
     if (const auto kind = ListedKindOf(Letter())) ShowKind(*kind);
-  } else if (CharacterOf(OwnAddress().Whole()) == letter.Text()) {
+  } else if (OwnLetter() == letter.Text()) {
     // A DC relay module shows itself as a relay module here; both are stored alike.
     ShowKind(ActiveCode() == RelayDcKind ? RelayKind : ActiveCode());
   }

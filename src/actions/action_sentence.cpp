@@ -197,7 +197,7 @@ std::string MasterActionSentence(std::string_view code, const SentenceVariant& v
 }
 
 std::string OwnActionSentence(std::string_view code) {
-  const bool own = !code.empty() && CharacterOf(OwnAddress().Whole()) == code.substr(0, 1);
+  const bool own = !code.empty() && OwnLetter() == code.substr(0, 1);
   return ActionSentence(code, OwnSentences, own ? std::optional(ActiveCode()) : std::nullopt);
 }
 

@@ -12,7 +12,6 @@
 #include "shell/directory_lists.h"
 #include "shell/main_window.h"
 #include "shell/manual.h"
-#include "text/windows1252.h"
 
 namespace bkconf {
 namespace {
@@ -91,8 +90,7 @@ std::string ProposedName() {
   const ModuleKind* kind = ActiveKind();
   if (kind == nullptr) return {};
   std::string name(Text(kind->filePrefix));
-  const CellPlace& address = kind->address;
-  if (address.table != nullptr) name += CharacterOf((*address.table)[address.index].Whole());
+  if (kind->address.table != nullptr) name += OwnLetter();
   return name;
 }
 

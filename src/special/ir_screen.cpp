@@ -112,7 +112,7 @@ void PickKey() {
 
 /// The module cannot send to itself.
 bool RefuseOwnLetter() {
-  const bool own = CharacterOf(OwnAddress().Whole()) == IrScreen.picker.letter.Text();
+  const bool own = OwnLetter() == IrScreen.picker.letter.Text();
   if (own) Messages->Tell(std::string(Text(TextId::IrToItself)));
   return own;
 }

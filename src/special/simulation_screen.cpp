@@ -190,7 +190,7 @@ void PickLetter() {
     OfferNumbers(TextId::ContextType, TextId::ContextCaption, NumberItems(1, MostContexts));
   } else if (Letter() == CorvelaLetter) {
     OfferNumbers(TextId::CorvelaType, TextId::CodeCaption, CodeNumbers());
-  } else if (CharacterOf(OwnAddress().Whole()) == SimulationScreen.letter.Text()) {
+  } else if (OwnLetter() == SimulationScreen.letter.Text()) {
     SimulationScreen.type.Show(Text(TextId::Dashes));
     SimulationScreen.type.enabled = false;
   } else {
