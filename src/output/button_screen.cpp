@@ -43,18 +43,9 @@ ButtonScreenFields::ButtonScreenFields()
 }
 
 Table& ButtonTable() {
-  switch (ActiveCode()) {
-    case 5:
-      return AlarmImage;
-    case 6:
-      return AudioImage;
-    case 7:
-      return SimulationImage;
-    case 8:
-      return IrImage;
-    default:
-      return ButtonImage;
-  }
+  const ModuleKind* kind = ActiveKind();
+  const bool own = kind != nullptr && kind->buttons != nullptr;
+  return own ? *kind->buttons : ButtonImage;
 }
 
 namespace {
