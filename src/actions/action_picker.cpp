@@ -5,6 +5,7 @@
 
 #include "image/kind_set.h"
 #include "image/module_directory.h"
+#include "image/tables.h"
 #include "platform/list_items.h"
 #include "session/language.h"
 #include "text/windows1252.h"
@@ -33,11 +34,11 @@ struct Target {
 };
 
 constexpr auto Targets = std::to_array<Target>({
-    {0, false, 12, Switching::Toggle},
-    {4, false, 12, Switching::Toggle},
-    {1, false, 4, Switching::Percentages},
-    {5, true, 12, Switching::OnOff},
-    {11, false, 8, Switching::FirstFourOfEight},
+    {RelayKind, false, 12, Switching::Toggle},
+    {RelayDcKind, false, 12, Switching::Toggle},
+    {DimKind, false, 4, Switching::Percentages},
+    {AlarmKind, true, MostDetectors, Switching::OnOff},
+    {LumenzaKind, false, 8, Switching::FirstFourOfEight},
 });
 
 const Target* FindTarget(int kind) {
@@ -67,11 +68,8 @@ constexpr int Zones = 16;
 /// The blocks of volume and balance, by place behind the secondary zone's first value.
 constexpr auto SecondaryBlocks = std::to_array<int>({32, 80});
 
-constexpr int Rooms = 8;
 constexpr int HighestTemperature = 40;
-constexpr int Contexts = 50;
 constexpr char LastModuleLetter = 'R';
-constexpr int Codes = 99;
 
 /// What the first row of the master's list tells that has the letter and one of these kinds. Rows
 /// of other modules, and rows without a kind, are passed over.
@@ -292,7 +290,7 @@ void ActionPicker::ShowKind(int kind) {
 void ActionPicker::OfferContexts() {
   type.Show(Text(TextId::ContextType));
   type.enabled = false;
-  output.Offer(Text(TextId::ContextCaption), NumberItems(1, Contexts));
+  output.Offer(Text(TextId::ContextCaption), NumberItems(1, ContextCount));
 }
 
 void ActionPicker::OfferCodes() {
@@ -341,7 +339,7 @@ void ActionPicker::OfferTemperatures() {
     TemperatureChoice& choice = temperatures[i];
     choice.option.visible = true;
     if (needs[i].temperature) OfferList(choice.temperature, NumberItems(0, HighestTemperature));
-    if (needs[i].room) OfferList(choice.room, NumberItems(1, Rooms));
+    if (needs[i].room) OfferList(choice.room, NumberItems(1, MostRooms));
   }
 }
 

@@ -8,6 +8,7 @@
 #include "image/module_directory.h"
 #include "link/link_events.h"
 #include "link/transfer.h"
+#include "platform/list_items.h"
 #include "session/language.h"
 #include "text/windows1252.h"
 
@@ -247,10 +248,7 @@ void LayOut() {
                              {std::string(Text(TextId::TypeColumn)), 2000}};
   fields->modules.Resize(DirectoryRows);
   for (ListField* list : {&fields->down, &fields->up}) {
-    list->items.clear();
-    for (int minutes = 0; minutes <= LongestCorrection; ++minutes) {
-      list->items.push_back(std::to_string(minutes));
-    }
+    list->items = NumberItems(0, LongestCorrection);
   }
 }
 

@@ -129,7 +129,7 @@ const std::vector<CellField>& CellFields() {
        {TemperatureKind},
        {&TempHeader, 1},
        1,
-       8,
+       MostRooms,
        TextId::RoomCount,
        &TempHeaderDirty},
       {&MainWindow.toleranceLabel,
@@ -145,7 +145,7 @@ const std::vector<CellField>& CellFields() {
        {AlarmKind},
        DetectorsInUse,
        1,
-       12,
+       MostDetectors,
        TextId::DetectorCount,
        nullptr},
   };

@@ -7,6 +7,7 @@
 #include "actions/action_sentence.h"
 #include "image/tables.h"
 #include "link/transfer.h"
+#include "platform/list_items.h"
 #include "session/language.h"
 #include "session/module_title.h"
 
@@ -37,7 +38,6 @@ AlarmScreenFields::AlarmScreenFields()
 
 namespace {
 
-constexpr int Detectors = 12;
 constexpr int LongestDelay = 120;
 
 /// Cells of AlarmImage, of the first detector.
@@ -228,14 +228,11 @@ void ShowCaptions() {
 
 void FillLists() {
   AlarmScreen.detector.items.clear();
-  for (int detector = 1; detector <= Detectors; ++detector) {
+  for (int detector = 1; detector <= MostDetectors; ++detector) {
     AlarmScreen.detector.items.push_back(std::string(Text(TextId::DetectorSentence)) +
                                          std::to_string(detector));
   }
-  AlarmScreen.delay.items.clear();
-  for (int minutes = 1; minutes <= LongestDelay; ++minutes) {
-    AlarmScreen.delay.items.push_back(std::to_string(minutes));
-  }
+  AlarmScreen.delay.items = NumberItems(1, LongestDelay);
   for (const Edge& edge : Edges) {
     edge.field.columns = {{std::string(Text(TextId::ActionColumn)), 1}};
     edge.field.Resize(1);

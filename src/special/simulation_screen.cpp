@@ -62,8 +62,6 @@ constexpr int Participants = GridSize * GridSize;
 /// A letter and a number: a participant is only switched by the simulation itself.
 constexpr int ParticipantSize = 2;
 
-constexpr int MostContexts = 50;
-constexpr int MostCodes = 99;
 constexpr std::string_view FreeText = "*";
 
 constexpr auto Sensitivities = std::to_array<TextId>(
@@ -187,7 +185,7 @@ void OfferNumbers(TextId type, TextId caption, std::vector<std::string> items) {
 void PickLetter() {
   HideLower();
   if (Letter() == ContextLetter) {
-    OfferNumbers(TextId::ContextType, TextId::ContextCaption, NumberItems(1, MostContexts));
+    OfferNumbers(TextId::ContextType, TextId::ContextCaption, NumberItems(1, ContextCount));
   } else if (Letter() == CorvelaLetter) {
     OfferNumbers(TextId::CorvelaType, TextId::CodeCaption, CodeNumbers());
   } else if (OwnLetter() == SimulationScreen.letter.Text()) {
