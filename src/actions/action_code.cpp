@@ -70,6 +70,10 @@ std::string NormalisedActionCode(Table& table, int cell) {
   return std::string(ActionEmptyText);
 }
 
+void PutAction(Table& table, int cell, const ActionCells& action) {
+  for (const Cell& each : action) table[cell++] = each;
+}
+
 void EraseAction(Table& table, int cell) {
   for (int i = 0; i < ActionSize; ++i) table[cell + i] = EmptyCell;
 }

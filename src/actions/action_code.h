@@ -55,6 +55,9 @@ std::string ProgramActionCode(const Table& table, int cell, ValueForm form);
 /// `ActionEmptyText`, and its three cells become 42.
 std::string NormalisedActionCode(Table& table, int cell);
 
+/// Puts the cells into the record at that cell and the two behind it.
+void PutAction(Table& table, int cell, const ActionCells& action);
+
 /// Puts 42 into the three cells of a record.
 void EraseAction(Table& table, int cell);
 

@@ -109,9 +109,7 @@ void ProgramScreen::Store() {
   ShowPanel(nullptr);
   const int cell = CellOf(list_.programs, row - 1);
   StoreMoment(cell);
-  for (int i = 0; i < ActionSize; ++i) {
-    list_.programs.table[cell + list_.programs.action + i] = (*cells)[static_cast<std::size_t>(i)];
-  }
+  PutAction(list_.programs.table, cell + list_.programs.action, *cells);
   Draw(Drawing::AfterChange);
   ShowDescription(programs.CurrentRow());
 }

@@ -122,9 +122,7 @@ void ResetClearBoxes() {
 }
 
 void Put(int cell, const ActionCells& cells) {
-  for (int i = 0; i < ActionSize; ++i) {
-    ButtonTable()[cell + i] = cells[static_cast<std::size_t>(i)];
-  }
+  PutAction(ButtonTable(), cell, cells);
 }
 
 /// Fields that are not complete leave the function as it was.

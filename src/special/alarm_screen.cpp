@@ -198,9 +198,7 @@ void Store() {
   if (AlarmScreen.noAction.checked) {
     EraseAction(AlarmImage, cell);
   } else {
-    for (int i = 0; i < ActionSize; ++i) {
-      AlarmImage[cell + i] = (*cells)[static_cast<std::size_t>(i)];
-    }
+    PutAction(AlarmImage, cell, *cells);
   }
   ShowAction(*edited);
   ShowEditor(false);

@@ -119,8 +119,7 @@ bool RefuseOwnLetter() {
 
 /// One store fills one row: the next needs its row, or its key, picked first.
 void Put(const ActionCells& cells) {
-  const int cell = ActionCell(IrScreen.row.Index());
-  for (int i = 0; i < ActionSize; ++i) IrImage[cell + i] = cells[static_cast<std::size_t>(i)];
+  PutAction(IrImage, ActionCell(IrScreen.row.Index()), cells);
   ShowRows();
   IrScreen.store.enabled = false;
   SignalChange();
