@@ -252,7 +252,7 @@ void LoadDiagnosticsScreen() {
 }
 
 void OpenDiagnosticsScreen() {
-  if (const ModuleKind* kind = ActiveKind()) Window.showModel(*kind);
+  ShowActiveModel();
   DiagnosticsScreen.title = ModuleTitle();
   OfferChoices();
   ShowPanel(nullptr);

@@ -270,7 +270,7 @@ void LoadModulePage(ModulePageFields& ofWindow) {
 }
 
 void SelectMaster() {
-  if (ActiveCode() == MasterKind) Window.showModel(*ActiveKind());
+  if (ActiveCode() == MasterKind) ShowActiveModel();
 }
 
 void OpenModulePage() {

@@ -265,7 +265,7 @@ void LoadAlarmScreen() {
 }
 
 void OpenAlarmScreen() {
-  if (const ModuleKind* kind = ActiveKind()) Window.showModel(*kind);
+  ShowActiveModel();
   AlarmScreen.title = ModuleTitle();
   AlarmScreen.detector.Show(Text(TextId::DetectorPrompt));
   BlankNote();

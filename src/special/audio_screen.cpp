@@ -255,7 +255,7 @@ void LoadAudioScreen() {
 }
 
 void OpenAudioScreen() {
-  if (const ModuleKind* kind = ActiveKind()) Window.showModel(*kind);
+  ShowActiveModel();
   AudioScreen.title = ModuleTitle();
   ShowCounts();
   AudioScreen.zone.list.items = NumberItems(1, CountIn(AudioImage[ZonesCell], MostZones));

@@ -200,7 +200,7 @@ void LoadIrScreen() {
 }
 
 void OpenIrScreen() {
-  if (const ModuleKind* kind = ActiveKind()) Window.showModel(*kind);
+  ShowActiveModel();
   IrScreen.title = ModuleTitle();
   IrScreen.remote.ClearPick();
   IrScreen.listGroup.visible = IrScreen.editGroup.visible = false;

@@ -297,7 +297,7 @@ void LoadSimulationScreen() {
 }
 
 void OpenSimulationScreen() {
-  if (const ModuleKind* kind = ActiveKind()) Window.showModel(*kind);
+  ShowActiveModel();
   SimulationScreen.title = ModuleTitle();
   SimulationScreen.conditions.Fill({&SimulationImage, LightCell, JoiningCell});
   SimulationScreen.sensitivity.Show(SimulationImage[SensitivityCell].Whole());
