@@ -43,9 +43,7 @@ const LiveTest Test{.command = TestButtons,
                     .steps = 0,
                     .stop = &DiagnosticsScreen.buttons.stop,
                     .takeLine = TakeLine,
-                    .accepted = nullptr,
-                    .sendStop = SendStop,
-                    .ended = nullptr};
+                    .sendStop = SendStop};
 
 void Clear() {
   LastButtonTime.clear();

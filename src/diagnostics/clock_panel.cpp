@@ -21,8 +21,7 @@ namespace {
 constexpr std::size_t TimeLength = 5;
 constexpr std::size_t DateLength = 9;
 constexpr int Century = 2000;
-constexpr int StopFrames = 50;
-constexpr int StopPause = 1000;
+constexpr int StopPauseTurns = 1000;
 
 /// Lines that have come since the question: the time comes first, and nothing marks it.
 int linesTaken = 0;
@@ -89,10 +88,7 @@ const LiveTest Test{.command = Test3,
                     .running = TextId::Diagnosing,
                     .steps = 2,
                     .stop = nullptr,
-                    .takeLine = TakeLine,
-                    .accepted = nullptr,
-                    .sendStop = nullptr,
-                    .ended = nullptr};
+                    .takeLine = TakeLine};
 
 /// Whether everything has gone out or not.
 void EndSending() {
@@ -190,11 +186,7 @@ void LeaveClockTest() {
   asked = false;
   if (Port->IsOpen()) Port->Close();
   if (!Port->Open()) return;
-  const std::string frame = std::string(StopTest) + std::string(LineEnd);
-  for (int i = 0; i < StopFrames; ++i) {
-    Port->Write(frame);
-    BusyLoop(StopPause - 1);
-  }
+  SendStop(StopPauseTurns);
 }
 
 }  // namespace bkconf

@@ -201,7 +201,6 @@ LiveTest Test{.command = {},
               .steps = 0,
               .stop = &DiagnosticsScreen.detectors.stop,
               .takeLine = TakeLine,
-              .accepted = nullptr,
               .sendStop = SendStop,
               .ended = Close};
 
