@@ -75,14 +75,14 @@ constexpr auto ZoneWords = std::to_array<ZoneWord>({
 });
 
 /// Above 16 the number tells what is set, and the zone behind it.
-struct AudioBlock {
+struct ValueBlock {
   int base;        ///< zones 1 to 16 follow
   bool bothZones;  ///< a value above 16 is one of the secondary zone
   TextId text;
 };
 
 constexpr int ZonesInBlock = 16;
-constexpr auto AudioBlocks = std::to_array<AudioBlock>({
+constexpr auto ValueBlocks = std::to_array<ValueBlock>({
     {16, false, TextId::WordToSource},
     {32, true, TextId::WordToVolume},
     {48, false, TextId::WordToTreble},
@@ -142,7 +142,7 @@ std::string SayZone(const Code& code) {
 
 /// In the main zone the value keeps its leading zero, in the secondary zone it has none.
 std::string SayAudioValue(const Code& code) {
-  for (const AudioBlock& block : AudioBlocks) {
+  for (const ValueBlock& block : ValueBlocks) {
     const int zone = code.Number() - block.base;
     if (zone < 1 || zone > ZonesInBlock) continue;
     const bool secondary = block.bothZones && code.Value() > ZonesInBlock;

@@ -132,12 +132,12 @@ void SendNextLine() {
   if (sendStep == 1) {
     sent = Now();
     Port->Write("T" + Padded(sent.hour) + Padded(sent.minute) + std::to_string(sent.weekday) +
-                std::string(LineEnd));
+                std::string(FrameEnd));
     AwaitNextLine();
     return;
   }
   Port->Write("T" + Padded(sent.date.day) + Padded(sent.date.month) + Padded(sent.date.year) +
-              std::string(LineEnd));
+              std::string(FrameEnd));
   ShowMoment(DiagnosticsScreen.clock.master, sent);
   Show(DiagnosticsScreen.clock.synchronise.caption, TextId::Ok);
 }

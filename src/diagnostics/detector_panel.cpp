@@ -152,7 +152,7 @@ void PickLogic(int detector) {
 // --- The update ---------------------------------------------------------------------------------
 
 void SendUpdate() {
-  const std::string frame = std::string(UpdateDetectors) + std::string(LineEnd);
+  const std::string frame = std::string(UpdateDetectors) + std::string(FrameEnd);
   for (int i = 0; i < UpdateFrames; ++i) Port->Write(frame);
   DiagnosticsScreen.detectors.update.enabled = false;
   Show(DiagnosticsScreen.status.caption, TextId::UpdatingDetectors);
@@ -174,7 +174,7 @@ void FinishUpdate() {
 std::string UpdateFrame(int detector) {
   const int code = DetectorCode(detector).Whole();
   return "A" + Padded(detector) + WireLevel(DetectorLevel(detector).Whole(), code / CodeBase) +
-         Padded(code) + std::string(LineEnd);
+         Padded(code) + std::string(FrameEnd);
 }
 
 void SendNextDetector() {

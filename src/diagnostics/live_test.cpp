@@ -90,7 +90,7 @@ void SendStop() {
 }
 
 void SendStop(int pauseTurns) {
-  const std::string frame = std::string(StopTest) + std::string(LineEnd);
+  const std::string frame = std::string(StopTest) + std::string(FrameEnd);
   for (int i = 0; i < StopFrames; ++i) {
     Port->Write(frame);
     if (pauseTurns > 0) BusyLoop(pauseTurns - 1);

@@ -24,11 +24,11 @@ void EnableOutputs(bool enabled) {
 void SwitchOutput(int output) {
   const std::string digits = Padded(output);
   SendPaced("T" + digits.substr(0, 1));
-  Port->Write(digits.substr(1) + std::string(LineEnd));
+  Port->Write(digits.substr(1) + std::string(FrameEnd));
 }
 
 void SendOutputsStop() {
-  const std::string frame = "T99" + std::string(LineEnd);
+  const std::string frame = "T99" + std::string(FrameEnd);
   for (int i = 0; i < StopFrames; ++i) SendPaced(frame);
 }
 

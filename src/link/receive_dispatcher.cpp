@@ -20,7 +20,7 @@ enum class Outcome {
   EndMasterTable,  ///< free the window, then let the table's screen open
   Nothing,         ///< the read was closed by its last cell
   EndTest,         ///< a live test or the master's scan of modules is over
-  EndBaseRead,     ///< free the window
+  FreeWindow,      ///< the end of any other conversation
 };
 
 /// The commands of a row; none means any.
@@ -56,7 +56,7 @@ constexpr auto DispatchRows = std::to_array<DispatchRow>({
     // Tests that the tool stops, ended by the module all the same.
     {"STOP", TestedKinds, false, {TestButtons, Test3}, Outcome::EndTest, LinkEvent::TestEnded},
     {"STOP", {5}, false, {Test4}, Outcome::EndTest, LinkEvent::TestEnded},
-    {"STOP", {}, true, AnyCommand, Outcome::EndBaseRead, std::nullopt},
+    {"STOP", {}, true, AnyCommand, Outcome::FreeWindow, std::nullopt},
 });
 
 bool Holds(const DispatchRow& row) {
@@ -94,7 +94,7 @@ void Carry(const DispatchRow& row) {
       Show(Window.status->caption, TextId::Ready);
       UnlockWindow(row.event);
       break;
-    case Outcome::EndBaseRead:
+    case Outcome::FreeWindow:
       UnlockWindow();
       break;
   }
