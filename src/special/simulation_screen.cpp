@@ -68,8 +68,13 @@ constexpr auto Sensitivities = std::to_array<TextId>(
     {TextId::SensitivityHighest, TextId::SensitivityHigh, TextId::SensitivityMedium,
      TextId::SensitivityLow, TextId::SensitivityLowest});
 
-/// What can take part: the targets that a light programme has.
-constexpr auto& Types = LightPickerTypes;
+/// What can take part, beside contexts and codes.
+constexpr auto Types = std::to_array<PickerType>({
+    {TextId::RelayModule, RelayKind},
+    {TextId::DimType, DimKind},
+    {TextId::RelayDcModule, RelayDcKind},
+    {TextId::LumenzaModule, LumenzaKind},
+});
 
 Cell& TargetCell(int participant) {
   return SimulationImage[FirstParticipant + ParticipantSize * participant];
