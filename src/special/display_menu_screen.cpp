@@ -1,5 +1,6 @@
 #include "special/display_menu_screen.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -338,16 +339,23 @@ void ConfirmOutputs() {
   ShowOutputs(false);
 }
 
+const MenuCategory& Automation() {
+  return *CategoryOfCode(AutomationCode);
+}
+
+/// Nothing passes, and so do several of the letters. It is kept so, on purpose.
 void TypeLetter(ListField& letter) {
-  const bool known = letter.Text().find_first_not_of("ABCDEFGHIJKLMNOPQR") == std::string::npos;
+  const std::string& typed = letter.Text();
+  const bool known = std::all_of(typed.begin(), typed.end(), [](char each) {
+    return each >= Automation().firstLetter && each <= Automation().lastLetter;
+  });
   if (!known) letter.Show(Unused);
   MarkChange();
 }
 
 void TypeNumber(ListField& number) {
-  constexpr int highest = 12;
   const int typed = LenientNumber(number.Text());
-  if (typed < 1 || typed > highest) number.Show(FirstNumber);
+  if (typed < 1 || typed > Automation().highestOutput) number.Show(FirstNumber);
   MarkChange();
 }
 
@@ -481,9 +489,8 @@ void LoadLine(int line) {
 }
 
 void LoadPair(AutomationFields& row) {
-  const MenuCategory& category = *CategoryOfCode(Cell(AutomationCode));
-  row.module.items = LetterItems(category.firstLetter, category.lastLetter);
-  row.output.items = NumberItems(1, category.highestOutput);
+  row.module.items = LetterItems(Automation().firstLetter, Automation().lastLetter);
+  row.output.items = NumberItems(1, Automation().highestOutput);
   row.module.onPick = row.output.onPick = MarkChange;
   row.module.onTyped = [&row] { TypeLetter(row.module); };
   row.output.onTyped = [&row] { TypeNumber(row.output); };
