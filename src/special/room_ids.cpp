@@ -96,11 +96,15 @@ bool IsPump() {
   return Ids().valve.Index() + 1 == static_cast<int>(Ids().valve.items.size());
 }
 
+/// The letter's cell; that of the output stands behind it.
+int ValveCell() {
+  return IsPump() ? PumpCell : FirstValveCell + 2 * Ids().valve.Index();
+}
 Cell& LetterCell() {
-  return TempTail[IsPump() ? PumpCell : FirstValveCell + 2 * Ids().valve.Index()];
+  return TempTail[ValveCell()];
 }
 Cell& OutputCell() {
-  return TempTail[(IsPump() ? PumpCell : FirstValveCell + 2 * Ids().valve.Index()) + 1];
+  return TempTail[ValveCell() + 1];
 }
 
 void ShowLetter() {

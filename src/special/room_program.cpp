@@ -48,13 +48,15 @@ PeriodRow& Row(int period) {
   return *Program().periods[static_cast<std::size_t>((period + PeriodsOfDay) % PeriodsOfDay)];
 }
 
+/// The cell of its hour; that of the minute stands behind it.
+int TimeCell(int boundary) {
+  return WeekDays * TimeCells * Program().room.Index() + TempDayTimeBase + 2 * boundary;
+}
 Cell& HourCell(int boundary) {
-  return TempPeriods[WeekDays * TimeCells * Program().room.Index() + TempDayTimeBase +
-                     2 * boundary];
+  return TempPeriods[TimeCell(boundary)];
 }
 Cell& MinuteCell(int boundary) {
-  return TempPeriods[WeekDays * TimeCells * Program().room.Index() + TempDayTimeBase +
-                     2 * boundary + 1];
+  return TempPeriods[TimeCell(boundary) + 1];
 }
 Cell& SetpointCell(int period) {
   return TempSetpoints[WeekDays * SetpointCells * Program().room.Index() + TempDaySetBase + period];
