@@ -41,6 +41,7 @@ constexpr int GridRows = 20;
 constexpr int GridColumns = 5;
 constexpr int LastAction = ContextCells - ActionSize;
 /// Behind the last action that is drawn, the cells up to this one are emptied before packing.
+/// Only half of a context is emptied behind its end. It is kept so, on purpose.
 constexpr int LastCleanedCell = 149;
 
 /// The first cell of the action that the open frame is about.

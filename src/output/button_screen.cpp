@@ -225,6 +225,7 @@ void AskForBaseFunctions() {
   if (InUse(ButtonScreen.functionsGroup)) ShowBaseQuestion(true);
 }
 
+/// A master is dirty from the question on, whatever the answer is; so it is meant.
 void CloseBaseQuestion() {
   if (!InUse(ButtonScreen.baseGroup)) return;
   MasterBaseDirty = 1;
