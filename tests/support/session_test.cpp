@@ -8,6 +8,7 @@
 #include "diagnostics/clock_panel.h"
 #include "diagnostics/detector_panel.h"
 #include "diagnostics/diagnostics_screen.h"
+#include "diagnostics/live_test.h"
 #include "image/tables.h"
 #include "link/link_ticks.h"
 #include "link/transfer.h"
@@ -51,6 +52,7 @@ void ResetGlobals() {
   Now = LocalNow;
   RxLine.clear();
   TransferUnderWay = false;
+  RunningTest = nullptr;
   LinkHandlers = {};
   ActionHandlers = {};
   MakeAnew(MainWindow);
