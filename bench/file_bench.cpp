@@ -15,8 +15,6 @@
 namespace bkconf {
 namespace {
 
-constexpr int MasterKind = 9;
-
 /// Of this process, on all its threads, in seconds.
 double ProcessorTime() {
   rusage usage{};

@@ -43,7 +43,7 @@ void PutRules(Cells& cells, std::initializer_list<Rule> rules) {
 Memory AlarmModule() {
   Memory memory(5);
   Cells& cells = memory.Cells(TableName::AlarmImage);
-  PutIdentity(memory, alarm, 67);
+  PutAddressAndVersion(memory, alarm, 67);
   PutButtons(cells, 4,
              {
                  {1, Watch(gardenMotion), Ignore(gardenMotion)},

@@ -36,7 +36,7 @@ void PutZone(Cells& cells, const ZoneSettings& each) {
 Memory AudioModule() {
   Memory memory(6);
   Cells& cells = memory.Cells(TableName::AudioImage);
-  PutIdentity(memory, audio, 15);
+  PutAddressAndVersion(memory, audio, 15);
   PutButtons(cells, 2,
              {
                  {1, ToggleMusic(livingMusic), NextSource(livingMusic)},

@@ -23,7 +23,7 @@ void PutStartValues(Cells& cells, std::initializer_list<StartValue> values) {
 Memory DimmerModule() {
   Memory memory(1);
   Cells& cells = memory.Cells(TableName::ButtonImage);
-  PutIdentity(memory, dimmers, 42);
+  PutAddressAndVersion(memory, dimmers, 42);
   PutButtons(cells, 2,
              {
                  {1, Toggle(livingSpots), Dim(livingSpots, 30)},
@@ -42,7 +42,7 @@ Memory DimmerModule() {
 Memory LumenzaModule() {
   Memory memory(11);
   Cells& cells = memory.Cells(TableName::ButtonImage);
-  PutIdentity(memory, lumenza, 12);
+  PutAddressAndVersion(memory, lumenza, 12);
   PutButtons(cells, 2,
              {
                  {1, Toggle(kitchenSpots), Run(dinner)},

@@ -165,7 +165,7 @@ void PutScreens(Cells& cells, const Screens& screens) {
 
 Memory DisplayModule() {
   Memory memory(3);
-  PutIdentity(memory, display, 31);
+  PutAddressAndVersion(memory, display, 31);
   PutScreens(memory.Cells(TableName::LcdScreen1), Downstairs());
   PutScreens(memory.Cells(TableName::LcdScreen2), Upstairs());
   PutText(memory.Cells(TableName::LcdWeekdayNames), 0, 21, "Zo Ma Di Wo Do Vr Za ");

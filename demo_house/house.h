@@ -52,8 +52,7 @@ struct Motor {
   Output down;
 };
 
-// --- Ground floor
-// ----------------------------------------------------------------------------------
+// --- Ground floor -------------------------------------------------------------------------------
 inline constexpr Output hallLight{relays, 1};
 inline constexpr Output toiletLight{relays, 2};
 inline constexpr Output storeLight{relays, 3};
@@ -71,8 +70,7 @@ inline constexpr Motor kitchenShutter{{motors, 3}, {motors, 4}};
 inline constexpr Output frontDoorLock{motors, 9};
 inline constexpr Output garageDoor{motors, 10};
 
-// --- Upstairs
-// --------------------------------------------------------------------------------------
+// --- Upstairs -----------------------------------------------------------------------------------
 inline constexpr Output landingLight{relays, 6};
 inline constexpr Output childLight1{relays, 7};
 inline constexpr Output childLight2{relays, 8};
@@ -83,8 +81,7 @@ inline constexpr Dimmed bathMirror{lumenza, 3};
 inline constexpr Output towelRadiator{lumenza, 8};
 inline constexpr Motor bedroomShutter{{motors, 5}, {motors, 6}};
 
-// --- Outside and cellar
-// ----------------------------------------------------------------------------
+// --- Outside and cellar -------------------------------------------------------------------------
 inline constexpr Output terraceLight{lumenza, 5};
 inline constexpr Output driveLight{lumenza, 6};
 inline constexpr Output gardenLight{lumenza, 7};
@@ -101,8 +98,7 @@ inline constexpr Output allLights[] = {
 };
 inline constexpr Motor allShutters[] = {livingShutter, kitchenShutter, bedroomShutter};
 
-// --- Rooms with a temperature of their own
-// -----------------------------------------------------------
+// --- Rooms with a temperature of their own ------------------------------------------------------
 inline constexpr Room livingRoom{1};
 inline constexpr Room kitchen{2};
 inline constexpr Room office{3};
@@ -111,8 +107,7 @@ inline constexpr Room childRooms{5};
 inline constexpr Room bathroom{6};
 inline constexpr int roomsInUse = 6;
 
-// --- Detectors
-// -------------------------------------------------------------------------------------
+// --- Detectors ----------------------------------------------------------------------------------
 inline constexpr Detector hallMotion{1};
 inline constexpr Detector driveMotion{2};
 inline constexpr Detector frontDoorContact{3};
@@ -124,8 +119,7 @@ inline constexpr Detector wind{8};
 inline constexpr Detector livingMotion{9};
 inline constexpr int detectorsInUse = 9;
 
-// --- Music
-// -----------------------------------------------------------------------------------------
+// --- Music --------------------------------------------------------------------------------------
 inline constexpr Zone livingMusic{1};
 inline constexpr Zone kitchenMusic{2};
 inline constexpr Zone bathMusic{3};
@@ -137,8 +131,7 @@ inline constexpr int discPlayer = 2;
 inline constexpr int television = 3;
 inline constexpr int sourcesInUse = 3;
 
-// --- Contexts, by the number that the screens show
-// ---------------------------------------------------
+// --- Contexts, by the number that the screens show ----------------------------------------------
 inline constexpr Context everythingOff{1};
 inline constexpr Context evening{2};
 inline constexpr Context cinema{3};

@@ -75,7 +75,7 @@ void PutButtons(Cells& cells, int halfSeconds, std::initializer_list<Button> but
   Put(cells, longPressCell, halfSeconds);
 }
 
-void PutIdentity(Memory& memory, int letter, int version) {
+void PutAddressAndVersion(Memory& memory, int letter, int version) {
   const std::optional<virtual_module::FixedCell> own = virtual_module::AddressCellOf(memory.kind());
   Put(memory.Cells(own.value().table), own.value().cell, letter);
   const virtual_module::FixedCell told = virtual_module::VersionCellOf(memory.kind());

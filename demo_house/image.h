@@ -38,7 +38,7 @@ struct Button {
 void PutButtons(Cells& cells, int halfSeconds, std::initializer_list<Button> buttons);
 
 // The letter of a module, and its version 10 to 99, each in the cell where the kind keeps it.
-void PutIdentity(Memory& memory, int letter, int version);
+void PutAddressAndVersion(Memory& memory, int letter, int version);
 
 // Light and time under which a detector or the simulation acts.
 struct Period {

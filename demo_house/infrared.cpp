@@ -40,7 +40,7 @@ void PutKeys(Cells& cells, const std::vector<Key>& keys) {
 Memory InfraredModule() {
   Memory memory(8);
   Cells& cells = memory.Cells(TableName::IrImage);
-  PutIdentity(memory, infrared, 24);
+  PutAddressAndVersion(memory, infrared, 24);
   PutButtons(cells, 2, {{1, Run(cinema), Run(evening)}, {2, Toggle(tvSocket)}});
   PutKeys(cells, {
                      {0, {Run(everythingOff)}},

@@ -43,7 +43,7 @@ void PutFunctions(Cells& cells, std::initializer_list<OutputFunction> functions)
 Memory RelayModule() {
   Memory memory(0);
   Cells& cells = memory.Cells(TableName::ButtonImage);
-  PutIdentity(memory, relays, 34);
+  PutAddressAndVersion(memory, relays, 34);
   PutButtons(cells, 2,
              {
                  {1, Toggle(hallLight), Run(everythingOff)},
@@ -73,7 +73,7 @@ Memory RelayModule() {
 Memory MotorModule() {
   Memory memory(4);
   Cells& cells = memory.Cells(TableName::ButtonImage);
-  PutIdentity(memory, motors, 21);
+  PutAddressAndVersion(memory, motors, 21);
   PutButtons(cells, 3,
              {
                  {1, Toggle(livingShutter.up), Run(shuttersUp)},

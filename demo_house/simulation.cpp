@@ -15,7 +15,7 @@ constexpr Target participants[] = {
 Memory SimulationModule() {
   Memory memory(7);
   Cells& cells = memory.Cells(TableName::SimulationImage);
-  PutIdentity(memory, simulation, 13);
+  PutAddressAndVersion(memory, simulation, 13);
   PutButtons(cells, 6, {{1, SimulatePresence(true), SimulatePresence(false)}});
   Put(cells, 123, 0);  // at home
   const Condition darkHours{

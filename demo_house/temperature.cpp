@@ -131,7 +131,7 @@ void PutEquipment(Memory& memory) {
 
 Memory TemperatureModule() {
   Memory memory(2);
-  PutIdentity(memory, heating, 23);
+  PutAddressAndVersion(memory, heating, 23);
   Cells& header = memory.Cells(TableName::TempHeader);
   Put(header, 1, roomsInUse);
   Put(header, 2, 5);  // tolerance, in steps of the module's own

@@ -1,3 +1,5 @@
+#include <stdexcept>
+#include <string>
 #include <string_view>
 
 #include "virtual_module/chance.h"
@@ -249,10 +251,15 @@ void FillTables(Memory& memory, Chance& chance) {
       FillTimeProgram(memory.Cells(TimeProgramTable), chance);
       FillLightProgram(memory.Cells(LightProgramTable), chance);
       break;
-    default:  // 0, 1, 4 and 11: the kinds that are not an enumeration here
+    case 0:
+    case 1:
+    case 4:
+    case 11:
       FillButtons(memory.Cells(ButtonImage), chance);
       FillOutputs(memory.Cells(ButtonImage), chance);
       break;
+    default:
+      throw std::invalid_argument("no default memory for kind " + std::to_string(memory.kind()));
   }
 }
 

@@ -34,14 +34,25 @@ bool HoldsModuleOrContextAction(const Cell& target) {
   return HoldsAction(target) && target.Number() != CorvelaLetter;
 }
 
-std::string TwoDigits(double number) {
+std::string LastTwo(double number) {
   const std::string text = PlainText(number);
   return text.size() < 2 ? text : text.substr(text.size() - 2);
 }
 
+std::string Padded(double number) {
+  return LastTwo(100 + number);
+}
+
+std::vector<std::string> CodeNumbers() {
+  constexpr int codes = 99;
+  std::vector<std::string> items;
+  for (int code = 1; code <= codes; ++code) items.push_back(Padded(code));
+  return items;
+}
+
 std::string ActionCode(const Cell& target, const Cell& index, const Cell& value, ValueForm form) {
-  return CharacterOf(target.Whole()) + TwoDigits(index.Number() + 101) +
-         TwoDigits(value.Number() + ValueBase(target, index, form));
+  return CharacterOf(target.Whole()) + LastTwo(index.Number() + 101) +
+         LastTwo(value.Number() + ValueBase(target, index, form));
 }
 
 std::string ProgramActionCode(const Table& table, int cell, ValueForm form) {
@@ -57,6 +68,10 @@ std::string NormalisedActionCode(Table& table, int cell) {
   if (HoldsAction(table[cell])) return ActionCode(table[cell], table[cell + 1], table[cell + 2]);
   EraseAction(table, cell);
   return std::string(ActionEmptyText);
+}
+
+void PutAction(Table& table, int cell, const ActionCells& action) {
+  for (const Cell& each : action) table[cell++] = each;
 }
 
 void EraseAction(Table& table, int cell) {

@@ -5,6 +5,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "image/table.h"
 
@@ -29,7 +30,11 @@ bool HoldsAction(const Cell& target);
 bool HoldsModuleOrContextAction(const Cell& target);
 
 /// The last two characters of a number's text: a code has room for two digits.
-std::string TwoDigits(double number);
+std::string LastTwo(double number);
+/// The number with two digits, as "07"; of a larger one the last two.
+std::string Padded(double number);
+/// What the lists of Corvela codes offer, "01" to "99".
+std::vector<std::string> CodeNumbers();
 
 /// How the last two characters come from the third cell.
 enum class ValueForm {
@@ -49,6 +54,9 @@ std::string ProgramActionCode(const Table& table, int cell, ValueForm form);
 /// The code of the record at that cell and the two behind it. An empty record gives
 /// `ActionEmptyText`, and its three cells become 42.
 std::string NormalisedActionCode(Table& table, int cell);
+
+/// Puts the cells into the record at that cell and the two behind it.
+void PutAction(Table& table, int cell, const ActionCells& action);
 
 /// Puts 42 into the three cells of a record.
 void EraseAction(Table& table, int cell);

@@ -5,18 +5,13 @@
 
 #include "image/kind_set.h"
 #include "image/module_directory.h"
+#include "image/tables.h"
 #include "platform/list_items.h"
 #include "session/language.h"
 #include "text/windows1252.h"
 
 namespace bkconf {
 namespace {
-
-constexpr int RelayKind = 0;
-constexpr int TemperatureKind = 2;
-constexpr int RelayDcKind = 4;
-constexpr int AudioKind = 6;
-constexpr int SimulationKind = 7;
 
 /// Images that know no more of the installation than their own letter.
 constexpr KindSet PlainImages{0, 1, 2, 4, 5, 6, 7, 11};
@@ -39,11 +34,11 @@ struct Target {
 };
 
 constexpr auto Targets = std::to_array<Target>({
-    {0, false, 12, Switching::Toggle},
-    {4, false, 12, Switching::Toggle},
-    {1, false, 4, Switching::Percentages},
-    {5, true, 12, Switching::OnOff},
-    {11, false, 8, Switching::FirstFourOfEight},
+    {RelayKind, false, 12, Switching::Toggle},
+    {RelayDcKind, false, 12, Switching::Toggle},
+    {DimKind, false, 4, Switching::Percentages},
+    {AlarmKind, true, MostDetectors, Switching::OnOff},
+    {LumenzaKind, false, 8, Switching::FirstFourOfEight},
 });
 
 const Target* FindTarget(int kind) {
@@ -73,11 +68,8 @@ constexpr int Zones = 16;
 /// The blocks of volume and balance, by place behind the secondary zone's first value.
 constexpr auto SecondaryBlocks = std::to_array<int>({32, 80});
 
-constexpr int Rooms = 8;
 constexpr int HighestTemperature = 40;
-constexpr int Contexts = 50;
 constexpr char LastModuleLetter = 'R';
-constexpr int Codes = 99;
 
 /// What the first row of the master's list tells that has the letter and one of these kinds. Rows
 /// of other modules, and rows without a kind, are passed over.
@@ -89,18 +81,8 @@ std::optional<int> ListedKindOf(char letter) {
   return std::nullopt;
 }
 
-std::string Say(TextId id) {
-  return std::string(Text(id));
-}
-
-std::vector<std::string> CodeNumbers() {
-  std::vector<std::string> items;
-  for (int code = 1; code <= Codes; ++code) items.push_back(TwoDigits(100 + code));
-  return items;
-}
-
 template <typename Ids>
-std::vector<std::string> Say(const Ids& ids) {
+std::vector<std::string> SayEach(const Ids& ids) {
   std::vector<std::string> items;
   for (const TextId id : ids) items.push_back(Say(id));
   return items;
@@ -278,7 +260,7 @@ void ActionPicker::PickLetter() {
     OfferCodes();
   } else if (!PlainImages.Contains(ActiveCode())) {
     if (const auto kind = ListedKindOf(Letter())) ShowKind(*kind);
-  } else if (CharacterOf(OwnAddress().Whole()) == letter.Text()) {
+  } else if (OwnLetter() == letter.Text()) {
     // A DC relay module shows itself as a relay module here; both are stored alike.
     ShowKind(ActiveCode() == RelayDcKind ? RelayKind : ActiveCode());
   }
@@ -308,7 +290,7 @@ void ActionPicker::ShowKind(int kind) {
 void ActionPicker::OfferContexts() {
   type.Show(Text(TextId::ContextType));
   type.enabled = false;
-  output.Offer(Text(TextId::ContextCaption), NumberItems(1, Contexts));
+  output.Offer(Text(TextId::ContextCaption), NumberItems(1, ContextCount));
 }
 
 void ActionPicker::OfferCodes() {
@@ -357,7 +339,7 @@ void ActionPicker::OfferTemperatures() {
     TemperatureChoice& choice = temperatures[i];
     choice.option.visible = true;
     if (needs[i].temperature) OfferList(choice.temperature, NumberItems(0, HighestTemperature));
-    if (needs[i].room) OfferList(choice.room, NumberItems(1, Rooms));
+    if (needs[i].room) OfferList(choice.room, NumberItems(1, MostRooms));
   }
 }
 
@@ -369,7 +351,7 @@ void ActionPicker::OfferZones() {
 void ActionPicker::OfferZoneActions() {
   value.Hide();
   action.Offer(Text(variant_.action),
-               mainZone.Chosen() ? Say(MainZoneActions) : Say(SecondaryZoneActions));
+               mainZone.Chosen() ? SayEach(MainZoneActions) : SayEach(SecondaryZoneActions));
 }
 
 void ActionPicker::OfferSimulation() {
@@ -413,7 +395,7 @@ void ActionPicker::PickAction() {
 // --- The cells ----------------------------------------------------------------------------------
 
 Cell ActionPicker::Number(int number) const {
-  if (variant_.form == StoredForm::TwoDigitTexts) return TwoDigits(100 + number);
+  if (variant_.form == StoredForm::TwoDigitTexts) return Padded(number);
   return number;
 }
 

@@ -75,24 +75,20 @@ constexpr auto ZoneWords = std::to_array<ZoneWord>({
 });
 
 /// Above 16 the number tells what is set, and the zone behind it.
-struct AudioBlock {
+struct ValueBlock {
   int base;        ///< zones 1 to 16 follow
   bool bothZones;  ///< a value above 16 is one of the secondary zone
   TextId text;
 };
 
 constexpr int ZonesInBlock = 16;
-constexpr auto AudioBlocks = std::to_array<AudioBlock>({
+constexpr auto ValueBlocks = std::to_array<ValueBlock>({
     {16, false, TextId::WordToSource},
     {32, true, TextId::WordToVolume},
     {48, false, TextId::WordToTreble},
     {64, false, TextId::WordToBass},
     {80, true, TextId::WordToBalance},
 });
-
-std::string Say(TextId id) {
-  return std::string(Text(id));
-}
 
 /// "Relaismodule 'A':  ", the module in front of what it is to do.
 std::string Prefix(TextId module, const Code& code) {
@@ -146,7 +142,7 @@ std::string SayZone(const Code& code) {
 
 /// In the main zone the value keeps its leading zero, in the secondary zone it has none.
 std::string SayAudioValue(const Code& code) {
-  for (const AudioBlock& block : AudioBlocks) {
+  for (const ValueBlock& block : ValueBlocks) {
     const int zone = code.Number() - block.base;
     if (zone < 1 || zone > ZonesInBlock) continue;
     const bool secondary = block.bothZones && code.Value() > ZonesInBlock;
@@ -158,17 +154,16 @@ std::string SayAudioValue(const Code& code) {
 }
 
 std::string SayModule(int kind, const Code& code) {
-  constexpr int audio = 6;
-  if (code.Number() > ZonesInBlock) return kind == audio ? SayAudioValue(code) : std::string();
+  if (code.Number() > ZonesInBlock) return kind == AudioKind ? SayAudioValue(code) : std::string();
   for (const OutputSentence& row : OutputSentences) {
     if (row.kind == kind) return SayOutput(row, code);
   }
   switch (kind) {
-    case 2:
+    case TemperatureKind:
       return SayTemperature(code);
-    case audio:
+    case AudioKind:
       return SayZone(code);
-    case 7:
+    case SimulationKind:
       return SaySimulation(code);
     default:
       return {};
@@ -202,7 +197,7 @@ std::string MasterActionSentence(std::string_view code, const SentenceVariant& v
 }
 
 std::string OwnActionSentence(std::string_view code) {
-  const bool own = !code.empty() && CharacterOf(OwnAddress().Whole()) == code.substr(0, 1);
+  const bool own = !code.empty() && OwnLetter() == code.substr(0, 1);
   return ActionSentence(code, OwnSentences, own ? std::optional(ActiveCode()) : std::nullopt);
 }
 

@@ -21,7 +21,7 @@ struct SentenceVariant {
 inline constexpr SentenceVariant MasterSentences{true, {0, 1, 2, 4, 5, 6}};
 inline constexpr SentenceVariant ContextSentences{false, {0, 1, 2, 4, 5, 6, 7, 11}};
 inline constexpr SentenceVariant TimeProgramSentences{true, {0, 1, 2, 4, 5, 6, 11}};
-inline constexpr SentenceVariant LightProgramSentences{true, {0, 1, 4, 11}};
+inline constexpr SentenceVariant LightProgramSentences{true, OutputKinds};
 /// Any other image: it knows the sentence of its own module only.
 inline constexpr SentenceVariant OwnSentences{true, {0, 1, 2, 4, 5, 6, 7, 11}};
 

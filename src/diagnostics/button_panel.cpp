@@ -21,8 +21,7 @@ std::string LastButtonTime;
 
 std::string ClockText() {
   const Moment now = Now();
-  const auto two = [](unsigned part) { return TwoDigits(100 + part); };
-  return two(now.hour) + ":" + two(now.minute) + ":" + two(now.second);
+  return Padded(now.hour) + ":" + Padded(now.minute) + ":" + Padded(now.second);
 }
 
 void TakeLine() {
@@ -44,9 +43,7 @@ const LiveTest Test{.command = TestButtons,
                     .steps = 0,
                     .stop = &DiagnosticsScreen.buttons.stop,
                     .takeLine = TakeLine,
-                    .accepted = nullptr,
-                    .sendStop = SendStop,
-                    .ended = nullptr};
+                    .sendStop = SendStop};
 
 void Clear() {
   LastButtonTime.clear();

@@ -1,6 +1,5 @@
 #include "diagnostics/clock_panel.h"
 
-#include <array>
 #include <string>
 
 #include "actions/action_code.h"
@@ -22,8 +21,7 @@ namespace {
 constexpr std::size_t TimeLength = 5;
 constexpr std::size_t DateLength = 9;
 constexpr int Century = 2000;
-constexpr int StopFrames = 50;
-constexpr int StopPause = 1000;
+constexpr int StopPauseTurns = 1000;
 
 /// Lines that have come since the question: the time comes first, and nothing marks it.
 int linesTaken = 0;
@@ -32,10 +30,6 @@ bool asked = false;
 /// What is sent, and which of its two lines is next.
 Moment sent;
 int sendStep = 0;
-
-std::string Two(unsigned number) {
-  return TwoDigits(100 + number);
-}
 
 std::string Characters(std::size_t first, std::size_t last) {
   return std::string(CharactersOfLine(first, last));
@@ -49,9 +43,9 @@ void Blank(ClockFields& clock) {
 }
 
 void ShowMoment(ClockFields& clock, const Moment& moment) {
-  clock.hour.caption = Two(moment.hour) + ":" + Two(moment.minute);
-  clock.date.caption =
-      Two(moment.date.day) + "-" + Two(moment.date.month) + "-" + std::to_string(moment.date.year);
+  clock.hour.caption = Padded(moment.hour) + ":" + Padded(moment.minute);
+  clock.date.caption = Padded(moment.date.day) + "-" + Padded(moment.date.month) + "-" +
+                       std::to_string(moment.date.year);
   clock.weekday.caption = std::to_string(moment.weekday);
 }
 
@@ -59,7 +53,7 @@ void ShowMoment(ClockFields& clock, const Moment& moment) {
 void ShowPcClock() {
   const Moment now = Now();
   ShowMoment(DiagnosticsScreen.clock.pc, now);
-  DiagnosticsScreen.clock.pc.hour.caption += ":" + Two(now.second);
+  DiagnosticsScreen.clock.pc.hour.caption += ":" + Padded(now.second);
 }
 
 // --- The master's clock -------------------------------------------------------------------------
@@ -94,10 +88,7 @@ const LiveTest Test{.command = Test3,
                     .running = TextId::Diagnosing,
                     .steps = 2,
                     .stop = nullptr,
-                    .takeLine = TakeLine,
-                    .accepted = nullptr,
-                    .sendStop = nullptr,
-                    .ended = nullptr};
+                    .takeLine = TakeLine};
 
 /// Whether everything has gone out or not.
 void EndSending() {
@@ -140,13 +131,13 @@ void SendNextLine() {
   AdvanceTestBar();
   if (sendStep == 1) {
     sent = Now();
-    Port->Write("T" + Two(sent.hour) + Two(sent.minute) + std::to_string(sent.weekday) +
-                std::string(LineEnd));
+    Port->Write("T" + Padded(sent.hour) + Padded(sent.minute) + std::to_string(sent.weekday) +
+                std::string(FrameEnd));
     AwaitNextLine();
     return;
   }
-  Port->Write("T" + Two(sent.date.day) + Two(sent.date.month) + Two(sent.date.year) +
-              std::string(LineEnd));
+  Port->Write("T" + Padded(sent.date.day) + Padded(sent.date.month) + Padded(sent.date.year) +
+              std::string(FrameEnd));
   ShowMoment(DiagnosticsScreen.clock.master, sent);
   Show(DiagnosticsScreen.clock.synchronise.caption, TextId::Ok);
 }
@@ -158,19 +149,13 @@ Tick ClockSend{"ClockSend", 20, SendNextLine};
 
 void LoadClockTest() {
   ClockPanel& panel = DiagnosticsScreen.clock;
-  struct Caption {
-    std::string& text;
-    TextId id;
-  };
-  for (const Caption& row : std::to_array<Caption>({
-           {panel.group.caption, TextId::ClockPanel},
-           {panel.master.group.caption, TextId::MasterClock},
-           {panel.pc.group.caption, TextId::ComputerClock},
-           {panel.ask.caption, TextId::AskClock},
-           {panel.synchronise.caption, TextId::SetClock},
-       })) {
-    Show(row.text, row.id);
-  }
+  ShowAll({
+      {panel.group.caption, TextId::ClockPanel},
+      {panel.master.group.caption, TextId::MasterClock},
+      {panel.pc.group.caption, TextId::ComputerClock},
+      {panel.ask.caption, TextId::AskClock},
+      {panel.synchronise.caption, TextId::SetClock},
+  });
   for (ClockFields* clock : {&panel.master, &panel.pc}) {
     Show(clock->hourLabel.caption, TextId::ClockHour);
     Show(clock->dateLabel.caption, TextId::ClockDate);
@@ -201,11 +186,7 @@ void LeaveClockTest() {
   asked = false;
   if (Port->IsOpen()) Port->Close();
   if (!Port->Open()) return;
-  const std::string frame = std::string(StopTest) + std::string(LineEnd);
-  for (int i = 0; i < StopFrames; ++i) {
-    Port->Write(frame);
-    BusyLoop(StopPause - 1);
-  }
+  SendStop(StopPauseTurns);
 }
 
 }  // namespace bkconf

@@ -20,9 +20,6 @@
 namespace bkconf {
 namespace {
 
-/// Cells of AlarmImage.
-constexpr int CountCell = 123;
-constexpr int VersionCell = 148;
 /// Modules from this version on tell what they measure.
 constexpr double FirstMeasuringVersion = 65;
 
@@ -46,12 +43,12 @@ Cell& DetectorCode(int detector) {
 }
 
 bool Measures() {
-  return AlarmImage[VersionCell].Number() >= FirstMeasuringVersion;
+  return CellAt(FindKind(AlarmKind)->version).Number() >= FirstMeasuringVersion;
 }
 
 /// Detectors in use; only these have fields.
 int Detectors() {
-  return std::clamp(AlarmImage[CountCell].Whole(), 0, MostDetectors);
+  return std::clamp(CellAt(DetectorsInUse).Whole(), 0, MostDetectors);
 }
 
 DetectorFields& Fields(int detector) {
@@ -155,7 +152,7 @@ void PickLogic(int detector) {
 // --- The update ---------------------------------------------------------------------------------
 
 void SendUpdate() {
-  const std::string frame = std::string(UpdateDetectors) + std::string(LineEnd);
+  const std::string frame = std::string(UpdateDetectors) + std::string(FrameEnd);
   for (int i = 0; i < UpdateFrames; ++i) Port->Write(frame);
   DiagnosticsScreen.detectors.update.enabled = false;
   Show(DiagnosticsScreen.status.caption, TextId::UpdatingDetectors);
@@ -176,9 +173,8 @@ void FinishUpdate() {
 /// In the range that the code tells, whatever the level would lie in.
 std::string UpdateFrame(int detector) {
   const int code = DetectorCode(detector).Whole();
-  return "A" + TwoDigits(100 + detector) +
-         WireLevel(DetectorLevel(detector).Whole(), code / CodeBase) + TwoDigits(100 + code) +
-         std::string(LineEnd);
+  return "A" + Padded(detector) + WireLevel(DetectorLevel(detector).Whole(), code / CodeBase) +
+         Padded(code) + std::string(FrameEnd);
 }
 
 void SendNextDetector() {
@@ -205,7 +201,6 @@ LiveTest Test{.command = {},
               .steps = 0,
               .stop = &DiagnosticsScreen.detectors.stop,
               .takeLine = TakeLine,
-              .accepted = nullptr,
               .sendStop = SendStop,
               .ended = Close};
 

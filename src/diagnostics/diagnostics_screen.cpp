@@ -14,8 +14,6 @@
 namespace bkconf {
 namespace {
 
-constexpr KindSet EveryTested{0, 1, 4, 5, 9, 11};
-constexpr KindSet OutputModules{0, 1, 4, 11};
 /// Output modules from this version on are tested with another tool.
 constexpr double FirstZentrixVersion = 80;
 constexpr int Outputs = 12;
@@ -33,15 +31,15 @@ struct TestChoice {
 
 /// In the order in which they are offered.
 constexpr auto TestChoices = std::to_array<TestChoice>({
-    {"lineChoice", TextId::LineChoice, EveryTested, false, &DiagnosticsScreen.line.group,
+    {"lineChoice", TextId::LineChoice, TestedKinds, false, &DiagnosticsScreen.line.group,
      LoadLineTest, OpenLineTest, nullptr},
-    {"buttonsChoice", TextId::ButtonsAction, EveryTested, true, &DiagnosticsScreen.buttons.group,
+    {"buttonsChoice", TextId::ButtonsAction, TestedKinds, true, &DiagnosticsScreen.buttons.group,
      LoadButtonTest, OpenButtonTest, nullptr},
-    {"outputsChoice", TextId::OutputsChoice, OutputModules, true, &DiagnosticsScreen.outputs.group,
+    {"outputsChoice", TextId::OutputsChoice, OutputKinds, true, &DiagnosticsScreen.outputs.group,
      LoadOutputTest, OpenOutputTest, nullptr},
     {"lightChoice",
      TextId::LightChoice,
-     {9},
+     {MasterKind},
      false,
      &DiagnosticsScreen.light.group,
      LoadLightTest,
@@ -49,7 +47,7 @@ constexpr auto TestChoices = std::to_array<TestChoice>({
      nullptr},
     {"clockChoice",
      TextId::ClockChoice,
-     {9},
+     {MasterKind},
      false,
      &DiagnosticsScreen.clock.group,
      LoadClockTest,
@@ -57,7 +55,7 @@ constexpr auto TestChoices = std::to_array<TestChoice>({
      LeaveClockTest},
     {"detectorsChoice",
      TextId::DetectorsAction,
-     {5},
+     {AlarmKind},
      false,
      &DiagnosticsScreen.detectors.group,
      LoadDetectorTest,
@@ -167,7 +165,7 @@ std::array<TestPanel*, 5> TestPanels() {
 }
 
 bool NeedsZentrix() {
-  return OutputModules.Contains(ActiveCode()) && ModuleVersion.Number() >= FirstZentrixVersion;
+  return OutputKinds.Contains(ActiveCode()) && ModuleVersion.Number() >= FirstZentrixVersion;
 }
 
 void EnableChoices(bool enabled) {
@@ -254,7 +252,7 @@ void LoadDiagnosticsScreen() {
 }
 
 void OpenDiagnosticsScreen() {
-  if (const ModuleKind* kind = ActiveKind()) Window.showModel(*kind);
+  ShowActiveModel();
   DiagnosticsScreen.title = ModuleTitle();
   OfferChoices();
   ShowPanel(nullptr);

@@ -48,8 +48,6 @@ struct DetectorFields {
   ListField level;
 };
 
-inline constexpr int MostDetectors = 12;
-
 struct DetectorPanel : TestPanel {
   explicit DetectorPanel(Screen& screen);
 

@@ -23,10 +23,7 @@ const LiveTest Test{.command = TestLightSensor,
                     .running = TextId::TestingLight,
                     .steps = 10,
                     .stop = nullptr,
-                    .takeLine = TakeLine,
-                    .accepted = nullptr,
-                    .sendStop = nullptr,
-                    .ended = nullptr};
+                    .takeLine = TakeLine};
 
 }  // namespace
 

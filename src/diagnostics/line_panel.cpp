@@ -26,9 +26,7 @@ const LiveTest Test{.command = TestLine,
                     .steps = 10,
                     .stop = &DiagnosticsScreen.line.stop,
                     .takeLine = TakeLine,
-                    .accepted = nullptr,
-                    .sendStop = SendStop,
-                    .ended = nullptr};
+                    .sendStop = SendStop};
 
 }  // namespace
 

@@ -86,8 +86,15 @@ void AdvanceTestBar() {
 }
 
 void SendStop() {
-  const std::string frame = std::string(StopTest) + std::string(LineEnd);
-  for (int i = 0; i < StopFrames; ++i) Port->Write(frame);
+  SendStop(0);
+}
+
+void SendStop(int pauseTurns) {
+  const std::string frame = std::string(StopTest) + std::string(FrameEnd);
+  for (int i = 0; i < StopFrames; ++i) {
+    Port->Write(frame);
+    if (pauseTurns > 0) BusyLoop(pauseTurns - 1);
+  }
 }
 
 void LoadLiveTests() {

@@ -16,10 +16,10 @@ struct LiveTest {
   int steps;           ///< the end of the bar; 0 for a test without one
   ButtonField* stop;   ///< null where the user cannot stop it
   void (*takeLine)();  ///< a line of the module stands in RxLine
-  void (
-      *accepted)();  ///< the module took the command; null where only the stop button waits for it
-  void (*sendStop)();  ///< tells the module to end; null where the user cannot stop it
-  void (*ended)();     ///< what only a running test lets be used is put back; null where nothing is
+  /// The module took the command; null where only the stop button waits for that.
+  void (*accepted)() = nullptr;
+  void (*sendStop)() = nullptr;  ///< tells the module to end; null where the user cannot stop it
+  void (*ended)() = nullptr;     ///< puts back what only a running test lets be used, if anything
 };
 
 /// The test that runs, or null. Exactly while there is one, nothing else can be chosen.
@@ -39,6 +39,8 @@ void AdvanceTestBar();
 
 /// "T99999" fifty times without a pause: a module that is busy with its test misses some.
 void SendStop();
+/// The same with that many turns of the busy loop behind each, for a module that has time to read.
+void SendStop(int pauseTurns);
 
 /// Handlers for what the link tells of tests, once at start-up.
 void LoadLiveTests();

@@ -22,13 +22,13 @@ void EnableOutputs(bool enabled) {
 
 /// A frame of this test has a pause after every character but those that end a switching.
 void SwitchOutput(int output) {
-  const std::string digits = TwoDigits(100 + output);
+  const std::string digits = Padded(output);
   SendPaced("T" + digits.substr(0, 1));
-  Port->Write(digits.substr(1) + std::string(LineEnd));
+  Port->Write(digits.substr(1) + std::string(FrameEnd));
 }
 
 void SendOutputsStop() {
-  const std::string frame = "T99" + std::string(LineEnd);
+  const std::string frame = "T99" + std::string(FrameEnd);
   for (int i = 0; i < StopFrames; ++i) SendPaced(frame);
 }
 
@@ -50,7 +50,7 @@ void LoadOutputTest() {
   panel.start.onClick = [] { StartTest(Test); };
   for (std::size_t i = 0; i < panel.outputs.size(); ++i) {
     const int output = static_cast<int>(i);
-    panel.outputs[i]->caption = TwoDigits(101 + output);
+    panel.outputs[i]->caption = Padded(output + 1);
     panel.outputs[i]->onClick = [output] { SwitchOutput(output); };
   }
 }

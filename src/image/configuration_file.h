@@ -52,7 +52,7 @@ struct FileLayout {
 
 /// Reader and writer walk the same rows.
 inline constexpr auto FileLayouts = std::to_array<FileLayout>({
-    {{0, 1, 4, 11}, ButtonBlocks},
+    {OutputKinds, ButtonBlocks},
     {{2}, TempBlocks},
     {{3}, LcdBlocks},
     {{5}, AlarmBlocks},

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "image/kind_set.h"
 #include "image/tables.h"
 #include "text/text.h"
 
@@ -23,6 +24,14 @@ struct CellPlace {
   int index = 0;
 };
 
+/// The cell of a place that has one.
+inline Cell& CellAt(const CellPlace& place) {
+  return (*place.table)[place.index];
+}
+
+/// How many detectors an alarm module watches.
+inline constexpr CellPlace DetectorsInUse{&AlarmImage, 123};
+
 struct ModuleKind {
   int code;
   std::string_view identity;  ///< what the module's identity line begins with
@@ -31,6 +40,8 @@ struct ModuleKind {
   /// The master has none: its cells 120 and 121 hold its clock correction.
   CellPlace address;
   CellPlace version;
+  Table* buttons;  ///< with the functions of its buttons and their press time, or null
+  TextId title;    ///< of its screens, up to the address letter, for those that have one
   /// What the name of its configuration file begins with; the address letter follows, if it has
   /// one.
   TextId filePrefix;
@@ -45,6 +56,8 @@ inline constexpr std::array<ModuleKind, 11> ModuleKinds = {{
      DataGroup::General,
      {&ButtonImage, 121},
      {&ButtonImage, 163},
+     &ButtonImage,
+     TextId::RelayTitle,
      TextId::RelayFileName},
     {11,
      "DISPL11",
@@ -52,6 +65,8 @@ inline constexpr std::array<ModuleKind, 11> ModuleKinds = {{
      DataGroup::General,
      {&ButtonImage, 121},
      {&ButtonImage, 163},
+     &ButtonImage,
+     TextId::LumenzaTitle,
      TextId::DimFileName},
     {1,
      "DISPL1",
@@ -59,6 +74,8 @@ inline constexpr std::array<ModuleKind, 11> ModuleKinds = {{
      DataGroup::General,
      {&ButtonImage, 121},
      {&ButtonImage, 163},
+     &ButtonImage,
+     TextId::DimTitle,
      TextId::DimFileName},
     {2,
      "DISPL2",
@@ -66,6 +83,8 @@ inline constexpr std::array<ModuleKind, 11> ModuleKinds = {{
      DataGroup::DisplayTemperature,
      {&TempHeader, 0},
      {&TempHeader, 3},
+     nullptr,
+     TextId::TemperatureTitle,
      TextId::TemperatureFileName},
     {3,
      "DISPL3",
@@ -73,14 +92,26 @@ inline constexpr std::array<ModuleKind, 11> ModuleKinds = {{
      DataGroup::DisplayTemperature,
      {&LcdHeader, 0},
      {&LcdHeader, 1},
+     nullptr,
+     TextId::LcdTitle,
      TextId::LcdFileName},
-    {9, "DISPL9", "KR7110", DataGroup::General, {}, {&ButtonImage, 163}, TextId::MasterFileName},
+    {9,
+     "DISPL9",
+     "KR7110",
+     DataGroup::General,
+     {},
+     {&ButtonImage, 163},
+     &ButtonImage,
+     TextId::MasterTitle,
+     TextId::MasterFileName},
     {4,
      "DISPL4",
      "KR7023/KR8335",
      DataGroup::General,
      {&ButtonImage, 121},
      {&ButtonImage, 163},
+     &ButtonImage,
+     TextId::RelayDcTitle,
      TextId::RelayDcFileName},
     {5,
      "DISPL5",
@@ -88,6 +119,8 @@ inline constexpr std::array<ModuleKind, 11> ModuleKinds = {{
      DataGroup::Alarm,
      {&AlarmImage, 121},
      {&AlarmImage, 148},
+     &AlarmImage,
+     TextId::AlarmTitle,
      TextId::AlarmFileName},
     {6,
      "DISPL6",
@@ -95,6 +128,8 @@ inline constexpr std::array<ModuleKind, 11> ModuleKinds = {{
      DataGroup::Special,
      {&AudioImage, 121},
      {&AudioImage, 123},
+     &AudioImage,
+     TextId::AudioTitle,
      TextId::AudioFileName},
     {7,
      "DISPL7",
@@ -102,6 +137,8 @@ inline constexpr std::array<ModuleKind, 11> ModuleKinds = {{
      DataGroup::Special,
      {&SimulationImage, 121},
      {&SimulationImage, 124},
+     &SimulationImage,
+     TextId::SimulationTitle,
      TextId::SimulationFileName},
     {8,
      "DISPL8",
@@ -109,6 +146,8 @@ inline constexpr std::array<ModuleKind, 11> ModuleKinds = {{
      DataGroup::Special,
      {&IrImage, 121},
      {&IrImage, 124},
+     &IrImage,
+     TextId::IrTitle,
      TextId::IrFileName},
 }};
 

@@ -8,12 +8,17 @@
 
 namespace bkconf {
 
+/// The most that an image can hold.
+inline constexpr int ContextCount = 50;
+inline constexpr int MostRooms = 8;
+inline constexpr int MostDetectors = 12;
+
 inline Table ButtonImage{"ButtonImage", 164};
 inline Table ContextTable{"ContextTable", 1000};
 inline Table TimeProgramTable{"TimeProgramTable", 1000};
 inline Table LightProgramTable{"LightProgramTable", 1000};
 /// The working form of all contexts: 50 rows of 300 cells, one after the other.
-inline Table ContextWork{"ContextWork", 50 * 300};
+inline Table ContextWork{"ContextWork", ContextCount * 300};
 inline Table TempHeader{"TempHeader", 4};
 inline Table TempRoomIds{"TempRoomIds", 72};
 inline Table TempPeriods{"TempPeriods", 672};

@@ -1,5 +1,6 @@
 #include "link/cell_handlers.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -7,6 +8,7 @@
 #include "link/rx_line.h"
 #include "link/transfer.h"
 #include "session/language.h"
+#include "session/resets.h"
 
 namespace bkconf {
 namespace {
@@ -19,16 +21,23 @@ char TableDigit() {
 /// The read that a line belongs to, or null. Kinds with a single table have no other lines: theirs
 /// are cells whatever the command.
 const ReadRow* PendingRead() {
-  constexpr KindSet hasOneTable{6, 7, 8};
+  constexpr KindSet hasOneTable{AudioKind, SimulationKind, IrKind};
   const bool always = hasOneTable.Contains(ActiveCode());
   return FindReadRow(ActiveCode(), always ? std::string(ReadBase) : PendingCommand.Text());
 }
 
+/// The cell that ends the read of a table of kinds 2 and 3, or -1: the table's last cell ends none.
+int LastIndex(const Table* table) {
+  const auto row = std::find_if(ReadTable.begin(), ReadTable.end(),
+                                [table](const ReadRow& each) { return each.table == table; });
+  return row == ReadTable.end() ? -1 : row->lastIndex;
+}
+
 /// What only some kinds do when their base table is complete.
 void FinishBaseRead() {
-  constexpr KindSet comparesVersion{0, 1, 4, 11};
-  if (comparesVersion.Contains(ActiveCode())) ModuleVersion = ButtonImage[163];
-  if (ActiveCode() == 9) {
+  if (OutputKinds.Contains(ActiveCode())) ModuleVersion = CellAt(ActiveKind()->version);
+  KeepCopies();
+  if (ActiveCode() == MasterKind) {
     MasterBaseDirty = MasterContextsDirty = MasterTimeDirty = MasterLightDirty = 0;
     Raise(LinkEvent::ModuleListRead);
   }
@@ -64,20 +73,16 @@ void HandleTableLine() {
 struct TemperatureRow {
   char digit;
   Table* table;
-  int lastIndex;  ///< -1 where the table's last cell ends no read
   Cell* cleared;  ///< the dirty flag that each line clears, or null
 };
 
 constexpr std::array<TemperatureRow, 5> TemperatureRows = {{
-    {'1', &TempHeader, 3, &TempHeaderDirty},
-    {'2', &TempRoomIds, -1, nullptr},
-    {'3', &TempPeriods, -1, nullptr},
-    {'4', &TempSetpoints, 335, &TempProgramDirty},
-    {'5', &TempTail, 81, &TempRoomsDirty},
+    {'1', &TempHeader, &TempHeaderDirty},
+    {'2', &TempRoomIds, nullptr},
+    {'3', &TempPeriods, nullptr},
+    {'4', &TempSetpoints, &TempProgramDirty},
+    {'5', &TempTail, &TempRoomsDirty},
 }};
-
-/// The last cell of the live temperatures: that of room 8.
-constexpr int LastLiveTemperature = 71;
 
 void HandleTemperatureLine() {
   for (const TemperatureRow& row : TemperatureRows) {
@@ -86,11 +91,12 @@ void HandleTemperatureLine() {
     Window.bar->Advance();
     (*row.table)[index] = NumberInLine(6, 8);
     if (row.cleared != nullptr) *row.cleared = 0;
-    const bool live = row.table == &TempRoomIds && PendingCommand.Text() == Read3;
+    const bool ids = row.table == &TempRoomIds;
+    const bool live = ids && PendingCommand.Text() == Read3;
     if (live && !SentByUser()) Raise(LinkEvent::LiveTemperature);
-    if (index != (live ? LastLiveTemperature : row.lastIndex)) return;
+    // The identities bring the same table, and end no read.
+    if (index != LastIndex(row.table) || (ids && !live)) return;
     if (row.table == &TempHeader) {
-      TempRoomCount = TempHeader[1];
       FinishBaseRead();
     } else {
       CloseRead(LinkEvent::TemperatureRead);
@@ -105,17 +111,16 @@ struct DisplayRow {
   Table* table;
   std::size_t indexFrom;  ///< the first of the characters up to 5 that tell the address
   int address;            ///< of cell 0
-  int lastIndex;
   std::optional<LinkEvent> complete = std::nullopt;
 };
 
 constexpr std::array<DisplayRow, 6> DisplayRows = {{
-    {'1', &LcdHeader, 3, 0, 1},
-    {'2', &LcdScreen1, 2, 2000, 1019, LinkEvent::DisplayRead},
-    {'3', &LcdScreen1, 2, 2000, 1019, LinkEvent::DisplayRead},
-    {'4', &LcdScreen2, 2, 4000, 1019, LinkEvent::DisplayRead},
-    {'5', &LcdScreen2, 2, 4000, 1019, LinkEvent::DisplayRead},
-    {'6', &LcdWeekdayNames, 2, 6000, 20, LinkEvent::WeekdayRead},
+    {'1', &LcdHeader, 3, 0},
+    {'2', &LcdScreen1, 2, 2000, LinkEvent::DisplayRead},
+    {'3', &LcdScreen1, 2, 2000, LinkEvent::DisplayRead},
+    {'4', &LcdScreen2, 2, 4000, LinkEvent::DisplayRead},
+    {'5', &LcdScreen2, 2, 4000, LinkEvent::DisplayRead},
+    {'6', &LcdWeekdayNames, 2, 6000, LinkEvent::WeekdayRead},
 }};
 
 /// Lines of the display module carry a four-digit address in characters 2 to 5, and the digit that
@@ -126,7 +131,7 @@ void HandleDisplayLine() {
     const int index = NumberInLine(row.indexFrom, 5) - row.address;
     (*row.table)[index] = NumberInLine(6, 8);
     Window.bar->Advance();
-    if (index != row.lastIndex) return;
+    if (index != LastIndex(row.table)) return;
     if (row.table == &LcdHeader) {
       FinishBaseRead();
       return;

@@ -29,7 +29,7 @@ std::string TextOrZero(const Cell& cell) {
 }  // namespace
 
 std::string BuildFrame(FrameForm form, int wireIndex, const Cell& cell) {
-  const std::string end(LineEnd);
+  const std::string end(FrameEnd);
   const std::string start = "T" + LastDigits(wireIndex, 1000, 3);
   switch (form) {
     case FrameForm::Paced:

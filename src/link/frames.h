@@ -9,7 +9,7 @@
 namespace bkconf {
 
 /// What ends a line that goes out at once: LF and CR, in this order.
-inline constexpr std::string_view LineEnd = "\n\r";
+inline constexpr std::string_view FrameEnd = "\n\r";
 
 /// How a frame carries index and value. The widths differ on purpose: the modules read them so.
 enum class FrameForm {

@@ -1,5 +1,5 @@
-// The moments of a transfer that belong to a screen above the link.
-// The engines raise them; each screen's folder puts its handlers here before the session starts.
+// What the engines tell the screens above the link. Each screen's folder puts its handlers here
+// before the session starts.
 #pragma once
 
 #include <array>
@@ -10,8 +10,7 @@
 
 namespace bkconf {
 
-/// The moments of a transfer that belong to a screen. A screen's folder puts its handler into
-/// `LinkHandlers`; a moment without a handler passes.
+/// The moments of a transfer that belong to a screen; one without a handler passes.
 enum class LinkEvent {
   TestStarted,             ///< setup step of a live test; its screen takes over status and bar
   TemperatureReadStarted,  ///< setup step of a read on demand of the temperature module

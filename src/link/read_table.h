@@ -15,7 +15,7 @@ namespace bkconf {
 struct ReadRow {
   KindSet kinds;
   std::string_view command;
-  Table* table;    ///< the table that holds the last cell
+  Table* table;    ///< the table that holds the last cell; no two reads of kinds 2 and 3 share one
   int lastIndex;   ///< the cell that ends the read for the eye
   int barMaximum;  ///< cell lines expected; 0 for a read without a bar
   TextId status;

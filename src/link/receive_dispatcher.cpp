@@ -20,7 +20,7 @@ enum class Outcome {
   EndMasterTable,  ///< free the window, then let the table's screen open
   Nothing,         ///< the read was closed by its last cell
   EndTest,         ///< a live test or the master's scan of modules is over
-  EndBaseRead,     ///< free the window
+  FreeWindow,      ///< the end of any other conversation
 };
 
 /// The commands of a row; none means any.
@@ -36,29 +36,27 @@ struct DispatchRow {
 };
 
 constexpr Commands AnyCommand{};
-constexpr KindSet OutputModules{0, 1, 4, 11};
-constexpr KindSet TestedModules{0, 1, 4, 5, 9, 11};
 
 /// In the order in which they are tried. Only the first characters of a line are looked at.
 constexpr auto DispatchRows = std::to_array<DispatchRow>({
-    {"M80000", OutputModules, false, {Test3}, Outcome::Continue, LinkEvent::OutputsTestReady},
+    {"M80000", OutputKinds, false, {Test3}, Outcome::Continue, LinkEvent::OutputsTestReady},
     {"M80000", {}, true, {TestButtons}, Outcome::Continue, LinkEvent::ButtonTestReady},
     {"M80000", {5}, false, {Test3, Test4}, Outcome::Continue, LinkEvent::DetectorTestReady},
-    {"M80000", TestedModules, false, {TestLine}, Outcome::Continue, LinkEvent::LineTestReady},
+    {"M80000", TestedKinds, false, {TestLine}, Outcome::Continue, LinkEvent::LineTestReady},
     {"M80000", {}, true, AnyCommand, Outcome::Continue, std::nullopt},
     {"M70000", {}, true, AnyCommand, Outcome::StartWriting, std::nullopt},
     {"STOP", {9}, false, {Read1}, Outcome::EndMasterTable, LinkEvent::ContextsRead},
     {"STOP", {9}, false, {Read2}, Outcome::EndMasterTable, LinkEvent::TimeProgramsRead},
     {"STOP", {9}, false, {Read3}, Outcome::EndMasterTable, LinkEvent::LightProgramsRead},
     {"STOP", {3}, false, {Read1, Read3}, Outcome::Nothing, std::nullopt},
-    {"STOP", TestedModules, false, {TestLine}, Outcome::EndTest, LinkEvent::TestEnded},
+    {"STOP", TestedKinds, false, {TestLine}, Outcome::EndTest, LinkEvent::TestEnded},
     {"STOP", {9}, false, {TestLightSensor}, Outcome::EndTest, LinkEvent::TestEnded},
     {"STOP", {9}, false, {Test4}, Outcome::EndTest, std::nullopt},
     {"STOP", {9}, false, {Test3}, Outcome::EndTest, LinkEvent::TestEnded},
     // Tests that the tool stops, ended by the module all the same.
-    {"STOP", TestedModules, false, {TestButtons, Test3}, Outcome::EndTest, LinkEvent::TestEnded},
+    {"STOP", TestedKinds, false, {TestButtons, Test3}, Outcome::EndTest, LinkEvent::TestEnded},
     {"STOP", {5}, false, {Test4}, Outcome::EndTest, LinkEvent::TestEnded},
-    {"STOP", {}, true, AnyCommand, Outcome::EndBaseRead, std::nullopt},
+    {"STOP", {}, true, AnyCommand, Outcome::FreeWindow, std::nullopt},
 });
 
 bool Holds(const DispatchRow& row) {
@@ -96,7 +94,7 @@ void Carry(const DispatchRow& row) {
       Show(Window.status->caption, TextId::Ready);
       UnlockWindow(row.event);
       break;
-    case Outcome::EndBaseRead:
+    case Outcome::FreeWindow:
       UnlockWindow();
       break;
   }

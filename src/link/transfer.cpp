@@ -21,6 +21,10 @@ bool GiveFieldsBack() {
 
 }  // namespace
 
+void ShowActiveModel() {
+  if (const ModuleKind* kind = ActiveKind()) Window.showModel(*kind);
+}
+
 bool StartTransfer() {
   StopLink();
   // A read that ended short of its last cell told no screen to give the bar back.

@@ -38,6 +38,9 @@ inline constexpr int SearchMaximum = 20000;
 /// True from the start of a transfer until the menus are back.
 inline bool TransferUnderWay = false;
 
+/// Shows model, caption, picture and frame of the kind in memory, if there is one.
+void ShowActiveModel();
+
 /// Starts the conversation for `PendingCommand`: ends what the link still does, locks the window,
 /// shows the search, closes and opens the port and starts the wait for the poll. False when the
 /// port cannot be opened: nothing runs then, the window stays locked and nothing is told.

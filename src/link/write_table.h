@@ -38,7 +38,7 @@ struct WriteRow {
 };
 
 inline constexpr auto WriteTable = std::to_array<WriteRow>({
-    {{0, 1, 4, 11}, WriteBase, 163, TextId::SendingData},
+    {OutputKinds, WriteBase, 163, TextId::SendingData},
     {{5}, WriteBase, 294, TextId::SendingData},
     {{6}, WriteBase, 213, TextId::SendingData},
     {{7}, WriteBase, 185, TextId::SendingData},
@@ -102,7 +102,7 @@ inline constexpr std::array<WriteBlock, 1> TempTailCells = {{{0, 81, 0}}};
 }  // namespace blocks
 
 inline constexpr auto WrittenTables = std::to_array<TableRow>({
-    {{0, 1, 4, 11}, WriteBase, -1, &ButtonImage, FrameForm::Paced, blocks::Buttons},
+    {OutputKinds, WriteBase, -1, &ButtonImage, FrameForm::Paced, blocks::Buttons},
     {{9}, WriteBase, -1, &ButtonImage, FrameForm::Block, blocks::Buttons},
     {{9}, Write1, -1, &ContextTable, FrameForm::Block, blocks::MasterRecords, true},
     {{9}, Write2, -1, &TimeProgramTable, FrameForm::Block, blocks::MasterRecords, true},

@@ -26,7 +26,7 @@ constexpr int FramePeriod = 20;
 constexpr int DisplayFramePeriod = 30;
 
 const auto Writers = std::to_array<WriterRow>({
-    {{0, 1, 4, 11}, &ButtonWriter, FramePeriod},
+    {OutputKinds, &ButtonWriter, FramePeriod},
     {{9}, &MasterWriter, FramePeriod},
     {{2}, &TemperatureWriter, FramePeriod},
     {{3}, &DisplayWriter, DisplayFramePeriod},

@@ -1,5 +1,4 @@
-// The writers: each sends the cells of its kind at a fixed tick, one frame a tick, and nobody
-// answers. The dispatcher starts them through WriterSelect when the module has asked for the cells.
+// Where a write begins. The writers themselves are ticks of the link.
 #pragma once
 
 namespace bkconf {

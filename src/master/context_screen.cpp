@@ -1,6 +1,5 @@
 #include "master/context_screen.h"
 
-#include <array>
 #include <string>
 
 #include "actions/action_code.h"
@@ -42,6 +41,7 @@ constexpr int GridRows = 20;
 constexpr int GridColumns = 5;
 constexpr int LastAction = ContextCells - ActionSize;
 /// Behind the last action that is drawn, the cells up to this one are emptied before packing.
+/// Only half of a context is emptied behind its end. It is kept so, on purpose.
 constexpr int LastCleanedCell = 149;
 
 /// The first cell of the action that the open frame is about.
@@ -203,27 +203,21 @@ void ConfirmDelete() {
 // --- Opening ------------------------------------------------------------------------------------
 
 void ShowCaptions() {
-  struct Caption {
-    Field* field;
-    TextId text;
-  };
-  for (const Caption& row : std::to_array<Caption>({
-           {&ContextScreen.chooserLabel, TextId::ContextsTitle},
-           {&ContextScreen.memoryLabel, TextId::FreeMemory},
-           {&ContextScreen.hint, TextId::EditHint},
-           {&ContextScreen.descriptionGroup, TextId::DescriptionTitle},
-           {&ContextScreen.deleteGroup, TextId::DeleteTitle},
-           {&ContextScreen.deleteAction, TextId::DeleteAction},
-           {&ContextScreen.deleteContext, TextId::DeleteContext},
-           {&ContextScreen.deleteConfirm, TextId::Confirm},
-           {&ContextScreen.deleteCancel, TextId::Annul},
-           {&ContextScreen.editGroup, TextId::EditTitle},
-           {&ContextScreen.editConfirm, TextId::Confirm},
-           {&ContextScreen.editLeave, TextId::Leave},
-           {&ContextScreen.leave, TextId::Leave},
-       })) {
-    Show(row.field->caption, row.text);
-  }
+  ShowAll({
+      {ContextScreen.chooserLabel.caption, TextId::ContextsTitle},
+      {ContextScreen.memoryLabel.caption, TextId::FreeMemory},
+      {ContextScreen.hint.caption, TextId::EditHint},
+      {ContextScreen.descriptionGroup.caption, TextId::DescriptionTitle},
+      {ContextScreen.deleteGroup.caption, TextId::DeleteTitle},
+      {ContextScreen.deleteAction.caption, TextId::DeleteAction},
+      {ContextScreen.deleteContext.caption, TextId::DeleteContext},
+      {ContextScreen.deleteConfirm.caption, TextId::Confirm},
+      {ContextScreen.deleteCancel.caption, TextId::Annul},
+      {ContextScreen.editGroup.caption, TextId::EditTitle},
+      {ContextScreen.editConfirm.caption, TextId::Confirm},
+      {ContextScreen.editLeave.caption, TextId::Leave},
+      {ContextScreen.leave.caption, TextId::Leave},
+  });
 }
 
 void LayOut() {

@@ -1,4 +1,4 @@
-// The screen of the contexts of a master: what each of its fifty scenes does, action by action.
+// The screen of the contexts of a master: what each of them does, action by action.
 #pragma once
 
 #include "actions/action_picker.h"

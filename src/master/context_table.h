@@ -2,11 +2,10 @@
 // spread out, as the screen edits them.
 #pragma once
 
-#include "image/table.h"
+#include "image/tables.h"
 
 namespace bkconf {
 
-inline constexpr int ContextCount = 50;
 /// Of each context in ContextWork: a hundred actions of three cells. The first 42 in a cell that
 /// begins an action ends the list.
 inline constexpr int ContextCells = 300;

@@ -51,24 +51,18 @@ LightProgramScreenFields::LightProgramScreenFields()
       lightEnd(*this, "lightEnd") {}
 
 void LightProgramScreenFields::Load() {
-  struct Caption {
-    std::string& text;
-    TextId id;
-  };
-  for (const Caption& row : std::to_array<Caption>({
-           {lightToDark.caption, TextId::LightToDark},
-           {darkToLight.caption, TextId::DarkToLight},
-           {levelGroup.caption, TextId::LevelFrame},
-           {levelLabel.caption, TextId::LevelHeading},
-           {levelLabel.toolTip, TextId::LevelHint},
-           {level.toolTip, TextId::LevelHint},
-           {darkEnd.caption, TextId::DarkEnd},
-           {lightEnd.caption, TextId::LightEnd},
-       })) {
-    ::bkconf::Show(row.text, row.id);
-  }
+  ShowAll({
+      {lightToDark.caption, TextId::LightToDark},
+      {darkToLight.caption, TextId::DarkToLight},
+      {levelGroup.caption, TextId::LevelFrame},
+      {levelLabel.caption, TextId::LevelHeading},
+      {levelLabel.toolTip, TextId::LevelHint},
+      {level.toolTip, TextId::LevelHint},
+      {darkEnd.caption, TextId::DarkEnd},
+      {lightEnd.caption, TextId::LightEnd},
+  });
   level.items.clear();
-  for (int each = 1; each <= HighestLevel; ++each) level.items.push_back(TwoDigits(100 + each));
+  for (int each = 1; each <= HighestLevel; ++each) level.items.push_back(Padded(each));
   LoadList({{std::string(Text(TextId::DirectionColumn)), 1500},
             {std::string(Text(TextId::ValueName)), 1600}});
 }
@@ -101,7 +95,7 @@ void LightProgramScreenFields::DrawMoment(int row, int cell, Drawing drawing) {
     const auto& names = drawing == Drawing::AfterRead ? ArrowsAfterRead : Arrows;
     PutColumn(row, 2, Text(names[static_cast<std::size_t>(direction)]));
   }
-  PutColumn(row, 3, TwoDigits(LightProgramTable[cell + Level].Number() + 100));
+  PutColumn(row, 3, Padded(LightProgramTable[cell + Level].Number()));
 }
 
 void LoadLightProgramScreen() {

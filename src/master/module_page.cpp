@@ -8,6 +8,7 @@
 #include "image/module_directory.h"
 #include "link/link_events.h"
 #include "link/transfer.h"
+#include "platform/list_items.h"
 #include "session/language.h"
 #include "text/windows1252.h"
 
@@ -44,7 +45,6 @@ ModulePageFields::ModulePageFields(Screen& ofScreen)
 
 namespace {
 
-constexpr int MasterKind = 9;
 constexpr int LongestCorrection = 15;
 /// Cells of ButtonImage.
 constexpr int DownCell = 120;
@@ -220,32 +220,26 @@ void PickCorrection(ListField& list, int cell, ListField& other, int otherCell) 
 // --- The page -----------------------------------------------------------------------------------
 
 void ShowCaptions() {
-  struct Caption {
-    std::string* text;
-    TextId id;
-  };
-  for (const Caption& row : std::to_array<Caption>({
-           {&fields->page.caption, TextId::ConfigurationTitle},
-           {&fields->listLabel.caption, TextId::PresentModules},
-           {&fields->modules.toolTip, TextId::EditHint},
-           {&fields->scan.caption, TextId::Scan},
-           {&fields->clockGroup.caption, TextId::ClockGroup},
-           {&fields->clockText.caption, TextId::ClockText},
-           {&fields->downLabel.caption, TextId::MinutesDown},
-           {&fields->upLabel.caption, TextId::MinutesUp},
-           {&fields->addGroup.caption, TextId::AddTitle},
-           {&fields->addHeading.caption, TextId::ModuleTypeHeading},
-           {&fields->addLetterLabel.caption, TextId::ModuleCaption},
-           {&fields->addTypeLabel.caption, TextId::TypeCaption},
-           {&fields->addConfirm.caption, TextId::Confirm},
-           {&fields->addLeave.caption, TextId::Leave},
-           {&fields->deleteGroup.caption, TextId::DeleteTitle},
-           {&fields->deleteQuestion.caption, TextId::DeleteModule},
-           {&fields->deleteYes.caption, TextId::Yes},
-           {&fields->deleteNo.caption, TextId::No},
-       })) {
-    Show(*row.text, row.id);
-  }
+  ShowAll({
+      {fields->page.caption, TextId::ConfigurationTitle},
+      {fields->listLabel.caption, TextId::PresentModules},
+      {fields->modules.toolTip, TextId::EditHint},
+      {fields->scan.caption, TextId::Scan},
+      {fields->clockGroup.caption, TextId::ClockGroup},
+      {fields->clockText.caption, TextId::ClockText},
+      {fields->downLabel.caption, TextId::MinutesDown},
+      {fields->upLabel.caption, TextId::MinutesUp},
+      {fields->addGroup.caption, TextId::AddTitle},
+      {fields->addHeading.caption, TextId::ModuleTypeHeading},
+      {fields->addLetterLabel.caption, TextId::ModuleCaption},
+      {fields->addTypeLabel.caption, TextId::TypeCaption},
+      {fields->addConfirm.caption, TextId::Confirm},
+      {fields->addLeave.caption, TextId::Leave},
+      {fields->deleteGroup.caption, TextId::DeleteTitle},
+      {fields->deleteQuestion.caption, TextId::DeleteModule},
+      {fields->deleteYes.caption, TextId::Yes},
+      {fields->deleteNo.caption, TextId::No},
+  });
 }
 
 void LayOut() {
@@ -254,10 +248,7 @@ void LayOut() {
                              {std::string(Text(TextId::TypeColumn)), 2000}};
   fields->modules.Resize(DirectoryRows);
   for (ListField* list : {&fields->down, &fields->up}) {
-    list->items.clear();
-    for (int minutes = 0; minutes <= LongestCorrection; ++minutes) {
-      list->items.push_back(std::to_string(minutes));
-    }
+    list->items = NumberItems(0, LongestCorrection);
   }
 }
 
@@ -279,7 +270,7 @@ void LoadModulePage(ModulePageFields& ofWindow) {
 }
 
 void SelectMaster() {
-  if (ActiveCode() == MasterKind) Window.showModel(*ActiveKind());
+  if (ActiveCode() == MasterKind) ShowActiveModel();
 }
 
 void OpenModulePage() {

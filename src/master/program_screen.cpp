@@ -1,6 +1,5 @@
 #include "master/program_screen.h"
 
-#include <array>
 #include <string>
 #include <utility>
 
@@ -110,9 +109,7 @@ void ProgramScreen::Store() {
   ShowPanel(nullptr);
   const int cell = CellOf(list_.programs, row - 1);
   StoreMoment(cell);
-  for (int i = 0; i < ActionSize; ++i) {
-    list_.programs.table[cell + list_.programs.action + i] = (*cells)[static_cast<std::size_t>(i)];
-  }
+  PutAction(list_.programs.table, cell + list_.programs.action, *cells);
   Draw(Drawing::AfterChange);
   ShowDescription(programs.CurrentRow());
 }
@@ -129,26 +126,20 @@ void ProgramScreen::Delete() {
 // --- Opening ------------------------------------------------------------------------------------
 
 void ProgramScreen::LoadList(std::vector<GridField::Column> momentColumns) {
-  struct Caption {
-    std::string& text;
-    TextId id;
-  };
-  for (const Caption& row : std::to_array<Caption>({
-           {listLabel.caption, list_.title},
-           {memoryLabel.caption, TextId::FreeMemory},
-           {programs.toolTip, TextId::EditHint},
-           {descriptionGroup.caption, TextId::DescriptionTitle},
-           {deleteGroup.caption, TextId::DeleteTitle},
-           {deleteQuestion.caption, TextId::DeleteProgram},
-           {deleteYes.caption, TextId::Yes},
-           {deleteNo.caption, TextId::No},
-           {editGroup.caption, TextId::EditTitle},
-           {editConfirm.caption, TextId::Confirm},
-           {editLeave.caption, TextId::Leave},
-           {leave.caption, TextId::Leave},
-       })) {
-    ::bkconf::Show(row.text, row.id);
-  }
+  ShowAll({
+      {listLabel.caption, list_.title},
+      {memoryLabel.caption, TextId::FreeMemory},
+      {programs.toolTip, TextId::EditHint},
+      {descriptionGroup.caption, TextId::DescriptionTitle},
+      {deleteGroup.caption, TextId::DeleteTitle},
+      {deleteQuestion.caption, TextId::DeleteProgram},
+      {deleteYes.caption, TextId::Yes},
+      {deleteNo.caption, TextId::No},
+      {editGroup.caption, TextId::EditTitle},
+      {editConfirm.caption, TextId::Confirm},
+      {editLeave.caption, TextId::Leave},
+      {leave.caption, TextId::Leave},
+  });
   programs.columns = {{std::string(Text(TextId::NumberColumn)), 500},
                       {std::string(Text(TextId::ActionColumn)), 1500}};
   for (GridField::Column& column : momentColumns) programs.columns.push_back(std::move(column));

@@ -37,14 +37,6 @@ constexpr auto Days = std::to_array<TextId>({TextId::Sunday, TextId::Monday, Tex
                                              TextId::Saturday, TextId::OnDate, TextId::EveryDay});
 constexpr int OnDateCode = 8;
 
-std::string TwoDigitsOf(const Cell& cell) {
-  return TwoDigits(cell.Number() + 100);
-}
-
-std::string TwoDigitsOf(unsigned number) {
-  return TwoDigits(100 + number);
-}
-
 /// After a change the cells are joined as they stand: a module's 5 is "05" until then and "5" from
 /// then on, until the list is opened again. It is kept so, on purpose.
 std::string DateOf(int cell, Drawing drawing) {
@@ -52,7 +44,7 @@ std::string DateOf(int cell, Drawing drawing) {
   for (const int part : {DateDay, DateMonth, DateYear}) {
     const Cell& value = TimeProgramTable[cell + part];
     if (part != DateDay) date += "-";
-    date += drawing == Drawing::AfterChange ? value.Text() : TwoDigitsOf(value);
+    date += drawing == Drawing::AfterChange ? value.Text() : Padded(value.Number());
   }
   return date;
 }
@@ -63,7 +55,7 @@ std::vector<std::string> Times() {
   constexpr int last = 23 * hour + 50;
   std::vector<std::string> times;
   for (int minutes = 0; minutes <= last; minutes += 5) {
-    times.push_back(TwoDigits(100 + minutes / hour) + ":" + TwoDigits(100 + minutes % hour));
+    times.push_back(Padded(minutes / hour) + ":" + Padded(minutes % hour));
   }
   return times;
 }
@@ -122,7 +114,7 @@ void TimeProgramScreenFields::PickDay() {
 
 void TimeProgramScreenFields::PickDate() {
   const Date date = calendar.Day();
-  day.Show(TwoDigitsOf(date.day) + "-" + TwoDigitsOf(date.month) + "-" + TwoDigitsOf(date.year));
+  day.Show(Padded(date.day) + "-" + Padded(date.month) + "-" + Padded(date.year));
   AskDate(false);
   ShowMoment(picker.TargetKnown());
 }
@@ -150,8 +142,8 @@ void TimeProgramScreenFields::StoreMoment(int cell) {
 
 void TimeProgramScreenFields::DrawMoment(int row, int cell, Drawing drawing) {
   PutColumn(row, 2,
-            TwoDigitsOf(TimeProgramTable[cell + Hour]) + ":" +
-                TwoDigitsOf(TimeProgramTable[cell + Minute]));
+            Padded(TimeProgramTable[cell + Hour].Number()) + ":" +
+                Padded(TimeProgramTable[cell + Minute].Number()));
   const int code = TimeProgramTable[cell + DayCode].WholeNumber().value_or(0);
   // A code that is none leaves what stands there.
   if (code < 1 || code > static_cast<int>(Days.size())) return;

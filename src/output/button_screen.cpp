@@ -43,18 +43,9 @@ ButtonScreenFields::ButtonScreenFields()
 }
 
 Table& ButtonTable() {
-  switch (ActiveCode()) {
-    case 5:
-      return AlarmImage;
-    case 6:
-      return AudioImage;
-    case 7:
-      return SimulationImage;
-    case 8:
-      return IrImage;
-    default:
-      return ButtonImage;
-  }
+  const ModuleKind* kind = ActiveKind();
+  const bool own = kind != nullptr && kind->buttons != nullptr;
+  return own ? *kind->buttons : ButtonImage;
 }
 
 namespace {
@@ -62,7 +53,6 @@ namespace {
 constexpr int Buttons = 20;
 constexpr int TimeCell = 122;
 constexpr int HalfSeconds = 8;
-constexpr int Master = 9;
 
 /// Whether the user can work in that look of the screen, or part of it. What is hidden writes
 /// nothing, whoever presses it.
@@ -98,7 +88,7 @@ void FillList() {
 
 void ShowDescription(int row, int column) {
   const std::string& code = ButtonScreen.buttons.At(row, column);
-  ButtonScreen.description.caption = ActiveCode() == Master
+  ButtonScreen.description.caption = ActiveCode() == MasterKind
                                          ? MasterActionSentence(code, MasterSentences)
                                          : OwnActionSentence(code);
 }
@@ -132,9 +122,7 @@ void ResetClearBoxes() {
 }
 
 void Put(int cell, const ActionCells& cells) {
-  for (int i = 0; i < ActionSize; ++i) {
-    ButtonTable()[cell + i] = cells[static_cast<std::size_t>(i)];
-  }
+  PutAction(ButtonTable(), cell, cells);
 }
 
 /// Fields that are not complete leave the function as it was.
@@ -193,9 +181,9 @@ struct BaseFunctions {
 };
 
 constexpr auto BaseRows = std::to_array<BaseFunctions>({
-    {{1}, 4, 4},
-    {{11}, 8, 4},
-    {{0, 4, 5, 6, 7, 8}, 12, 0},
+    {{DimKind}, 4, 4},
+    {{LumenzaKind}, 8, 4},
+    {{RelayKind, RelayDcKind, AlarmKind, AudioKind, SimulationKind, IrKind}, 12, 0},
 });
 
 void AssignBase(int column, int count) {
@@ -237,6 +225,7 @@ void AskForBaseFunctions() {
   if (InUse(ButtonScreen.functionsGroup)) ShowBaseQuestion(true);
 }
 
+/// A master is dirty from the question on, whatever the answer is; so it is meant.
 void CloseBaseQuestion() {
   if (!InUse(ButtonScreen.baseGroup)) return;
   MasterBaseDirty = 1;
@@ -291,30 +280,24 @@ std::string ClearCaption(TextId which) {
 }
 
 void ShowCaptions() {
-  struct Caption {
-    Field* field;
-    TextId text;
-  };
-  for (const Caption& row : std::to_array<Caption>({
-           {&ButtonScreen.listLabel, TextId::ButtonList},
-           {&ButtonScreen.listHint, TextId::ButtonListHint},
-           {&ButtonScreen.chooserLabel, TextId::ButtonChooser},
-           {&ButtonScreen.firstGroup, TextId::FirstFunction},
-           {&ButtonScreen.secondGroup, TextId::SecondFunction},
-           {&ButtonScreen.noSecond, TextId::NoneChosen},
-           {&ButtonScreen.store, TextId::StoreFunction},
-           {&ButtonScreen.base, TextId::BaseFunctions},
-           {&ButtonScreen.baseGroup, TextId::BaseFunctionsTitle},
-           {&ButtonScreen.baseQuestion, TextId::BaseFunctionsQuestion},
-           {&ButtonScreen.baseYes, TextId::Yes},
-           {&ButtonScreen.baseNo, TextId::No},
-           {&ButtonScreen.timeLabel, TextId::SecondFunctionTimeLabel},
-           {&ButtonScreen.seconds, TextId::Seconds},
-           {&ButtonScreen.timeHelp, TextId::SecondFunctionTimeHelp},
-           {&ButtonScreen.leave, TextId::Leave},
-       })) {
-    Show(row.field->caption, row.text);
-  }
+  ShowAll({
+      {ButtonScreen.listLabel.caption, TextId::ButtonList},
+      {ButtonScreen.listHint.caption, TextId::ButtonListHint},
+      {ButtonScreen.chooserLabel.caption, TextId::ButtonChooser},
+      {ButtonScreen.firstGroup.caption, TextId::FirstFunction},
+      {ButtonScreen.secondGroup.caption, TextId::SecondFunction},
+      {ButtonScreen.noSecond.caption, TextId::NoneChosen},
+      {ButtonScreen.store.caption, TextId::StoreFunction},
+      {ButtonScreen.base.caption, TextId::BaseFunctions},
+      {ButtonScreen.baseGroup.caption, TextId::BaseFunctionsTitle},
+      {ButtonScreen.baseQuestion.caption, TextId::BaseFunctionsQuestion},
+      {ButtonScreen.baseYes.caption, TextId::Yes},
+      {ButtonScreen.baseNo.caption, TextId::No},
+      {ButtonScreen.timeLabel.caption, TextId::SecondFunctionTimeLabel},
+      {ButtonScreen.seconds.caption, TextId::Seconds},
+      {ButtonScreen.timeHelp.caption, TextId::SecondFunctionTimeHelp},
+      {ButtonScreen.leave.caption, TextId::Leave},
+  });
   ButtonScreen.clearFirst.caption = ClearCaption(TextId::ClearFirstFunctions);
   ButtonScreen.clearSecond.caption = ClearCaption(TextId::ClearSecondFunctions);
 }

@@ -41,8 +41,7 @@ namespace {
 constexpr int Outputs = 12;
 constexpr int Channels = 4;
 constexpr int LumenzaOutputs = 8;
-constexpr int LumenzaKind = 11;
-constexpr KindSet Dimmers{1, LumenzaKind};
+constexpr KindSet Dimmers{DimKind, LumenzaKind};
 
 /// Cells of ButtonImage, of the first output.
 constexpr int FunctionCell = 123;
@@ -66,10 +65,6 @@ constexpr auto Functions = std::to_array<OutputFunction>({
     {TextId::ActiveAfter, false, true, TextId::ActiveAfterOutput},
     {TextId::LockedWith, false, true, TextId::LockedWithOutput},
 });
-
-std::string Say(TextId id) {
-  return std::string(Text(id));
-}
 
 const OutputFunction* FindFunction(const Cell& code) {
   const int place = code.WholeNumber().value_or(-1);
@@ -171,27 +166,21 @@ void DrawPlainOutputs() {
 // --- Opening ------------------------------------------------------------------------------------
 
 void ShowCaptions() {
-  struct Caption {
-    Field* field;
-    TextId text;
-  };
-  for (const Caption& row : std::to_array<Caption>({
-           {&OutputScreen.functionsGroup, TextId::OutputFunctions},
-           {&OutputScreen.editGroup, TextId::EditOutput},
-           {&OutputScreen.outputLabel, TextId::OutputCaption},
-           {&OutputScreen.functionLabel, TextId::FunctionCaption},
-           {&OutputScreen.linkedLabel, TextId::OutputCaption},
-           {&OutputScreen.timeLabel, TextId::TimeCaption},
-           {&OutputScreen.confirm, TextId::Confirm},
-           {&OutputScreen.startGroup, TextId::StartValues},
-           {&OutputScreen.startEditGroup, TextId::EditStartValue},
-           {&OutputScreen.channelLabel, TextId::ChannelCaption},
-           {&OutputScreen.startLabel, TextId::StartValueCaption},
-           {&OutputScreen.confirmStart, TextId::Confirm},
-           {&OutputScreen.leave, TextId::Leave},
-       })) {
-    Show(row.field->caption, row.text);
-  }
+  ShowAll({
+      {OutputScreen.functionsGroup.caption, TextId::OutputFunctions},
+      {OutputScreen.editGroup.caption, TextId::EditOutput},
+      {OutputScreen.outputLabel.caption, TextId::OutputCaption},
+      {OutputScreen.functionLabel.caption, TextId::FunctionCaption},
+      {OutputScreen.linkedLabel.caption, TextId::OutputCaption},
+      {OutputScreen.timeLabel.caption, TextId::TimeCaption},
+      {OutputScreen.confirm.caption, TextId::Confirm},
+      {OutputScreen.startGroup.caption, TextId::StartValues},
+      {OutputScreen.startEditGroup.caption, TextId::EditStartValue},
+      {OutputScreen.channelLabel.caption, TextId::ChannelCaption},
+      {OutputScreen.startLabel.caption, TextId::StartValueCaption},
+      {OutputScreen.confirmStart.caption, TextId::Confirm},
+      {OutputScreen.leave.caption, TextId::Leave},
+  });
 }
 
 void FillLists() {

@@ -1,6 +1,7 @@
 // Texts in the language of the session. All code that shows a text comes here.
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -23,6 +24,11 @@ inline std::string_view Text(TextId id) {
   return {};
 }
 
+/// The same as a string of its own, to put together with others.
+inline std::string Say(TextId id) {
+  return std::string(Text(id));
+}
+
 /// Puts the text into a caption or status. While `Language` is neither 1 nor 2 what stands there
 /// stays, except that a text which is the same in both languages needs no language.
 inline void Show(std::string& caption, TextId id) {
@@ -31,6 +37,17 @@ inline void Show(std::string& caption, TextId id) {
   } else if (Language.Number() == Dutch || Language.Number() == French) {
     caption = Text(id);
   }
+}
+
+/// A caption, tool tip or title, and the text that it shows.
+struct CaptionRow {
+  std::string& text;
+  TextId id;
+};
+
+/// Shows each of them.
+inline void ShowAll(std::initializer_list<CaptionRow> captions) {
+  for (const CaptionRow& row : captions) Show(row.text, row.id);
 }
 
 }  // namespace bkconf

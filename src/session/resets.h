@@ -68,13 +68,21 @@ inline const OnDemandFlags* ActiveOnDemandFlags() {
   return nullptr;
 }
 
-/// Cells that are kept a second time beside the image, and are copied when a file is opened.
+/// Cells that are kept a second time beside the image, and are copied when
+/// the image's own cell has come or was changed.
 struct KeptCopy {
   int kind;
   CellPlace original;
   Cell* copy;
 };
 inline constexpr auto KeptCopies = std::to_array<KeptCopy>({{2, {&TempHeader, 1}, &TempRoomCount}});
+
+/// Brings the copies of the kind in memory up to date.
+inline void KeepCopies() {
+  for (const KeptCopy& kept : KeptCopies) {
+    if (kept.kind == ActiveCode()) *kept.copy = CellAt(kept.original);
+  }
+}
 
 /// Tables that no file holds: opening one fills them with 42, as start-up does.
 struct WorkTable {

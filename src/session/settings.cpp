@@ -25,7 +25,7 @@ void ReadSettings() {
 
 void RetrySettings() {
   // The language may have been changed while start-up waited.
-  ReadSetting(Settings.front());
+  ReadSetting(LanguageSetting);
   ReadSettings();
 }
 
@@ -53,16 +53,16 @@ bool ReadSetting(const Setting& setting) {
 }
 
 void StoreLanguage() {
-  FileSystem->Write(SettingsPath("country.vdm"), Language.PrintForm() + "\r\n");
+  FileSystem->Write(SettingsPath(LanguageSetting.file), Language.PrintForm() + "\r\n");
 }
 
 void StoreDirectory(const std::string& path) {
-  FileSystem->Write(SettingsPath("directory.vdm"), path + "\r\n");
+  FileSystem->Write(SettingsPath(DirectorySetting.file), path + "\r\n");
   DefaultDirectory = path;
 }
 
 void StorePortNumber() {
-  FileSystem->Write(SettingsPath("port.vdm"), PortNumber.Text() + "\r\n");
+  FileSystem->Write(SettingsPath(PortSetting.file), PortNumber.Text() + "\r\n");
 }
 
 void StartSession(std::function<void()> done,

@@ -24,13 +24,15 @@ struct Setting {
   bool mayBeEmptyFile;  ///< a file of no bytes is an empty value, not one that is being written
 };
 
+inline constexpr Setting LanguageSetting = {"country.vdm", &Language, true, false};
+inline constexpr Setting PortSetting = {"port.vdm", &PortNumber, true, false};
 inline constexpr Setting DirectorySetting = {"directory.vdm", &DefaultDirectory, false, true};
 
 /// In the order in which start-up reads them. There are no built-in defaults: a value exists only
 /// because its file does.
 inline constexpr auto Settings = std::to_array<Setting>({
-    {"country.vdm", &Language, true, false},
-    {"port.vdm", &PortNumber, true, false},
+    LanguageSetting,
+    PortSetting,
     {"pc.vdm", &CharDelayCount, true, false},
     DirectorySetting,
 });

@@ -9,6 +9,7 @@
 
 #include "image/cell.h"
 #include "image/module_kinds.h"
+#include "text/windows1252.h"
 
 namespace bkconf {
 
@@ -121,7 +122,12 @@ inline const Cell& OwnAddress() {
   static const Cell none;
   const ModuleKind* kind = ActiveKind();
   if (kind == nullptr || kind->address.table == nullptr) return none;
-  return (*kind->address.table)[kind->address.index];
+  return CellAt(kind->address);
+}
+
+/// That letter as its character; empty where there is none.
+inline std::string OwnLetter() {
+  return CharacterOf(OwnAddress().Whole());
 }
 
 }  // namespace bkconf

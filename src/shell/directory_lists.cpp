@@ -84,7 +84,7 @@ void DirectoryLists::Enter(const std::string& path, const std::string& hiddenFol
   ShowDrive();
 }
 
-bool DirectoryLists::CanGoTo(const std::string& path) {
+bool DirectoryLists::TryGoTo(const std::string& path) {
   if (!fs::u8path(path).is_absolute()) return false;
   try {
     GoTo(path);

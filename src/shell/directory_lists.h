@@ -31,7 +31,7 @@ class DirectoryLists {
   /// where it was then.
   void GoTo(const std::string& path);
   /// The same, told by false; a path that is not absolute is none.
-  bool CanGoTo(const std::string& path);
+  bool TryGoTo(const std::string& path);
   /// Looks at the directory again.
   void Refresh() { GoTo(path_); }
 

@@ -30,7 +30,7 @@ void StoreChoice(const std::string& directory) {
 /// A directory that is gone, or none, is repaired at once: the file says so even when the picker is
 /// left by Cancel.
 void GoToDefaultDirectory() {
-  if (DirectoryPicker.lists.CanGoTo(DefaultDirectory.Text())) return;
+  if (DirectoryPicker.lists.TryGoTo(DefaultDirectory.Text())) return;
   DirectoryPicker.lists.GoTo(SettingsDirectory);
   StoreChoice(Joined(SettingsDirectory, ""));
 }

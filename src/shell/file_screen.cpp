@@ -30,7 +30,7 @@ void FileScreen::LoadLists(TextId caption, TextId directoryCaption) {
 }
 
 void FileScreen::GoToStart() {
-  if (!lists.CanGoTo(DefaultDirectory.Text())) lists.GoTo(SettingsDirectory);
+  if (!lists.TryGoTo(DefaultDirectory.Text())) lists.GoTo(SettingsDirectory);
 }
 
 }  // namespace bkconf

@@ -126,15 +126,15 @@ const std::vector<CellField>& CellFields() {
   static const std::vector<CellField> fields = {
       {&MainWindow.roomCountLabel,
        &MainWindow.roomCount,
-       {2},
+       {TemperatureKind},
        {&TempHeader, 1},
        1,
-       8,
+       MostRooms,
        TextId::RoomCount,
        &TempHeaderDirty},
       {&MainWindow.toleranceLabel,
        &MainWindow.tolerance,
-       {2},
+       {TemperatureKind},
        {&TempHeader, 2},
        2,
        255,
@@ -142,18 +142,14 @@ const std::vector<CellField>& CellFields() {
        &TempHeaderDirty},
       {&MainWindow.detectorCountLabel,
        &MainWindow.detectorCount,
-       {5},
-       {&AlarmImage, 123},
+       {AlarmKind},
+       DetectorsInUse,
        1,
-       12,
+       MostDetectors,
        TextId::DetectorCount,
        nullptr},
   };
   return fields;
-}
-
-Cell& CellAt(const CellPlace& place) {
-  return (*place.table)[place.index];
 }
 
 bool HasAddress(const ModuleKind* kind) {
@@ -308,7 +304,7 @@ void PickCell(const CellField& field) {
   CellAt(field.cell) = ReadsAsNumber(field.list->Text()).value_or(0);
   SignalChange();
   if (field.dirty != nullptr) *field.dirty = 1;
-  if (field.list == &MainWindow.roomCount) TempRoomCount = CellAt(field.cell);
+  if (field.list == &MainWindow.roomCount) KeepCopies();
 }
 
 void FillLists() {
@@ -471,7 +467,8 @@ void NewModule() {
   // A display's table frees the window before the module's last line has come.
   StopLink();
   CloseManual();
-  AlarmImage[123] = 0;
+  // Of the image, New empties just this cell; so it is meant.
+  CellAt(DetectorsInUse) = 0;
   ActiveModuleType = NoModule;
   RxLine.clear();
   ShowNoModule();

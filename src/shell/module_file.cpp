@@ -12,7 +12,6 @@
 #include "shell/directory_lists.h"
 #include "shell/main_window.h"
 #include "shell/manual.h"
-#include "text/windows1252.h"
 
 namespace bkconf {
 namespace {
@@ -38,9 +37,7 @@ void SetFlags() {
     Set(flags->loaded);
     Set(flags->dirty);
   }
-  for (const KeptCopy& kept : KeptCopies) {
-    if (kept.kind == ActiveCode()) *kept.copy = (*kept.original.table)[kept.original.index];
-  }
+  KeepCopies();
   for (const WorkTable& work : WorkTables) {
     if (work.kind == ActiveCode()) work.table->Fill(0, work.table->Size() - 1, EmptyCell);
   }
@@ -93,8 +90,7 @@ std::string ProposedName() {
   const ModuleKind* kind = ActiveKind();
   if (kind == nullptr) return {};
   std::string name(Text(kind->filePrefix));
-  const CellPlace& address = kind->address;
-  if (address.table != nullptr) name += CharacterOf((*address.table)[address.index].Whole());
+  if (kind->address.table != nullptr) name += OwnLetter();
   return name;
 }
 

@@ -7,6 +7,7 @@
 #include "actions/action_sentence.h"
 #include "image/tables.h"
 #include "link/transfer.h"
+#include "platform/list_items.h"
 #include "session/language.h"
 #include "session/module_title.h"
 
@@ -37,7 +38,6 @@ AlarmScreenFields::AlarmScreenFields()
 
 namespace {
 
-constexpr int Detectors = 12;
 constexpr int LongestDelay = 120;
 
 /// Cells of AlarmImage, of the first detector.
@@ -198,9 +198,7 @@ void Store() {
   if (AlarmScreen.noAction.checked) {
     EraseAction(AlarmImage, cell);
   } else {
-    for (int i = 0; i < ActionSize; ++i) {
-      AlarmImage[cell + i] = (*cells)[static_cast<std::size_t>(i)];
-    }
+    PutAction(AlarmImage, cell, *cells);
   }
   ShowAction(*edited);
   ShowEditor(false);
@@ -210,38 +208,29 @@ void Store() {
 // --- Opening ------------------------------------------------------------------------------------
 
 void ShowCaptions() {
-  struct Caption {
-    Field* field;
-    TextId text;
-  };
-  for (const Caption& row : std::to_array<Caption>({
-           {&AlarmScreen.listLabel, TextId::DetectorsTitle},
-           {&AlarmScreen.settingsGroup, TextId::DetectorSettings},
-           {&AlarmScreen.triggerGroup, TextId::TriggerAction},
-           {&AlarmScreen.endGroup, TextId::EndAction},
-           {&AlarmScreen.atOnce, TextId::AtOnce},
-           {&AlarmScreen.delayLabel, TextId::AfterDelay},
-           {&AlarmScreen.delayUnit, TextId::DelayMinutes},
-           {&AlarmScreen.editGroup, TextId::EditTitle},
-           {&AlarmScreen.noAction, TextId::NoAction},
-           {&AlarmScreen.editConfirm, TextId::Confirm},
-           {&AlarmScreen.editLeave, TextId::Leave},
-           {&AlarmScreen.leave, TextId::Leave},
-       })) {
-    Show(row.field->caption, row.text);
-  }
+  ShowAll({
+      {AlarmScreen.listLabel.caption, TextId::DetectorsTitle},
+      {AlarmScreen.settingsGroup.caption, TextId::DetectorSettings},
+      {AlarmScreen.triggerGroup.caption, TextId::TriggerAction},
+      {AlarmScreen.endGroup.caption, TextId::EndAction},
+      {AlarmScreen.atOnce.caption, TextId::AtOnce},
+      {AlarmScreen.delayLabel.caption, TextId::AfterDelay},
+      {AlarmScreen.delayUnit.caption, TextId::DelayMinutes},
+      {AlarmScreen.editGroup.caption, TextId::EditTitle},
+      {AlarmScreen.noAction.caption, TextId::NoAction},
+      {AlarmScreen.editConfirm.caption, TextId::Confirm},
+      {AlarmScreen.editLeave.caption, TextId::Leave},
+      {AlarmScreen.leave.caption, TextId::Leave},
+  });
 }
 
 void FillLists() {
   AlarmScreen.detector.items.clear();
-  for (int detector = 1; detector <= Detectors; ++detector) {
+  for (int detector = 1; detector <= MostDetectors; ++detector) {
     AlarmScreen.detector.items.push_back(std::string(Text(TextId::DetectorSentence)) +
                                          std::to_string(detector));
   }
-  AlarmScreen.delay.items.clear();
-  for (int minutes = 1; minutes <= LongestDelay; ++minutes) {
-    AlarmScreen.delay.items.push_back(std::to_string(minutes));
-  }
+  AlarmScreen.delay.items = NumberItems(1, LongestDelay);
   for (const Edge& edge : Edges) {
     edge.field.columns = {{std::string(Text(TextId::ActionColumn)), 1}};
     edge.field.Resize(1);
@@ -276,7 +265,7 @@ void LoadAlarmScreen() {
 }
 
 void OpenAlarmScreen() {
-  if (const ModuleKind* kind = ActiveKind()) Window.showModel(*kind);
+  ShowActiveModel();
   AlarmScreen.title = ModuleTitle();
   AlarmScreen.detector.Show(Text(TextId::DetectorPrompt));
   BlankNote();

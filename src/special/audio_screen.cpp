@@ -208,30 +208,24 @@ void ShowCounts() {
 }
 
 void ShowCaptions() {
-  struct Caption {
-    Field* field;
-    TextId text;
-  };
-  for (const Caption& row : std::to_array<Caption>({
-           {&AudioScreen.frame, TextId::AudioTitleFrame},
-           {&AudioScreen.generalGroup, TextId::AudioGeneral},
-           {&AudioScreen.zones.label, TextId::ZoneCount},
-           {&AudioScreen.sources.label, TextId::SourceCount},
-           {&AudioScreen.settingsGroup, TextId::AudioSettingsGroup},
-           {&AudioScreen.zone.label, TextId::Zone},
-           {&AudioScreen.surround, TextId::Surround},
-           {&AudioScreen.surroundHint, TextId::UsedForSurround},
-           {&AudioScreen.mainGroup, TextId::MainZone},
-           {&AudioScreen.source.label, TextId::DefaultSource},
-           {&AudioScreen.mainVolume.label, TextId::DefaultVolume},
-           {&AudioScreen.gain.label, TextId::Gain},
-           {&AudioScreen.secondaryGroup, TextId::SecondaryZone},
-           {&AudioScreen.secondaryVolume.label, TextId::DefaultVolume},
-           {&AudioScreen.loudness, TextId::Loudness},
-           {&AudioScreen.leave, TextId::Leave},
-       })) {
-    Show(row.field->caption, row.text);
-  }
+  ShowAll({
+      {AudioScreen.frame.caption, TextId::AudioTitleFrame},
+      {AudioScreen.generalGroup.caption, TextId::AudioGeneral},
+      {AudioScreen.zones.label.caption, TextId::ZoneCount},
+      {AudioScreen.sources.label.caption, TextId::SourceCount},
+      {AudioScreen.settingsGroup.caption, TextId::AudioSettingsGroup},
+      {AudioScreen.zone.label.caption, TextId::Zone},
+      {AudioScreen.surround.caption, TextId::Surround},
+      {AudioScreen.surroundHint.caption, TextId::UsedForSurround},
+      {AudioScreen.mainGroup.caption, TextId::MainZone},
+      {AudioScreen.source.label.caption, TextId::DefaultSource},
+      {AudioScreen.mainVolume.label.caption, TextId::DefaultVolume},
+      {AudioScreen.gain.label.caption, TextId::Gain},
+      {AudioScreen.secondaryGroup.caption, TextId::SecondaryZone},
+      {AudioScreen.secondaryVolume.label.caption, TextId::DefaultVolume},
+      {AudioScreen.loudness.caption, TextId::Loudness},
+      {AudioScreen.leave.caption, TextId::Leave},
+  });
 }
 
 }  // namespace
@@ -261,7 +255,7 @@ void LoadAudioScreen() {
 }
 
 void OpenAudioScreen() {
-  if (const ModuleKind* kind = ActiveKind()) Window.showModel(*kind);
+  ShowActiveModel();
   AudioScreen.title = ModuleTitle();
   ShowCounts();
   AudioScreen.zone.list.items = NumberItems(1, CountIn(AudioImage[ZonesCell], MostZones));

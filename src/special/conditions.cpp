@@ -70,23 +70,17 @@ ConditionFields::ConditionFields(Screen& screen)
       either(screen, "either", &both) {}
 
 void ConditionFields::Load(TextId levelCaption) {
-  struct Caption {
-    std::string& text;
-    TextId id;
-  };
-  for (const Caption& row : std::to_array<Caption>({
-           {noCondition.caption, TextId::NoCondition},
-           {lightGroup.caption, TextId::LightFrame},
-           {noLight.caption, TextId::NoneChosen},
-           {levelLabel.caption, levelCaption},
-           {timeGroup.caption, TextId::TimeCaption},
-           {periods[0].label.caption, TextId::Period1},
-           {periods[1].label.caption, TextId::Period2},
-           {both.caption, TextId::JoinedByAnd},
-           {either.caption, TextId::JoinedByOr},
-       })) {
-    Show(row.text, row.id);
-  }
+  ShowAll({
+      {noCondition.caption, TextId::NoCondition},
+      {lightGroup.caption, TextId::LightFrame},
+      {noLight.caption, TextId::NoneChosen},
+      {levelLabel.caption, levelCaption},
+      {timeGroup.caption, TextId::TimeCaption},
+      {periods[0].label.caption, TextId::Period1},
+      {periods[1].label.caption, TextId::Period2},
+      {both.caption, TextId::JoinedByAnd},
+      {either.caption, TextId::JoinedByOr},
+  });
   level.items = NumberItems(1, HighestLevel);
   for (int place = 0; place < static_cast<int>(periods.size()); ++place) {
     PeriodFields& period = periods[static_cast<std::size_t>(place)];

@@ -1,5 +1,6 @@
 #include "special/display_menu_screen.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -338,16 +339,23 @@ void ConfirmOutputs() {
   ShowOutputs(false);
 }
 
+const MenuCategory& Automation() {
+  return *CategoryOfCode(AutomationCode);
+}
+
+/// Nothing passes, and so do several of the letters. It is kept so, on purpose.
 void TypeLetter(ListField& letter) {
-  const bool known = letter.Text().find_first_not_of("ABCDEFGHIJKLMNOPQR") == std::string::npos;
+  const std::string& typed = letter.Text();
+  const bool known = std::all_of(typed.begin(), typed.end(), [](char each) {
+    return each >= Automation().firstLetter && each <= Automation().lastLetter;
+  });
   if (!known) letter.Show(Unused);
   MarkChange();
 }
 
 void TypeNumber(ListField& number) {
-  constexpr int highest = 12;
   const int typed = LenientNumber(number.Text());
-  if (typed < 1 || typed > highest) number.Show(FirstNumber);
+  if (typed < 1 || typed > Automation().highestOutput) number.Show(FirstNumber);
   MarkChange();
 }
 
@@ -448,31 +456,25 @@ void Close() {
 }
 
 void ShowCaptions() {
-  struct Caption {
-    Field* field;
-    TextId text;
-  };
-  for (const Caption& row : std::to_array<Caption>({
-           {&DisplayMenuScreen.frame, TextId::MainScreen},
-           {&DisplayMenuScreen.nameLabel, TextId::DescriptionColumn},
-           {&DisplayMenuScreen.categoryLabel, TextId::ScreenType},
-           {&DisplayMenuScreen.scrollUp, TextId::Scroll},
-           {&DisplayMenuScreen.scrollDown, TextId::Scroll},
-           {&DisplayMenuScreen.mainArrowA, TextId::KeyArrowA},
-           {&DisplayMenuScreen.mainArrowB, TextId::KeyArrowB},
-           {&DisplayMenuScreen.moduleHead, TextId::ModuleAddress},
-           {&DisplayMenuScreen.outputHead, TextId::OutputCaption},
-           {&DisplayMenuScreen.arrowA, TextId::KeyArrowA},
-           {&DisplayMenuScreen.arrowB, TextId::KeyArrowB},
-           {&DisplayMenuScreen.outputsGroup, TextId::AutomationOutputs},
-           {&DisplayMenuScreen.open.label, TextId::OpenOutput},
-           {&DisplayMenuScreen.close.label, TextId::CloseOutput},
-           {&DisplayMenuScreen.ok, TextId::Ok},
-           {&DisplayMenuScreen.outputsLeave, TextId::Leave},
-           {&DisplayMenuScreen.leave, TextId::Leave},
-       })) {
-    Show(row.field->caption, row.text);
-  }
+  ShowAll({
+      {DisplayMenuScreen.frame.caption, TextId::MainScreen},
+      {DisplayMenuScreen.nameLabel.caption, TextId::DescriptionColumn},
+      {DisplayMenuScreen.categoryLabel.caption, TextId::ScreenType},
+      {DisplayMenuScreen.scrollUp.caption, TextId::Scroll},
+      {DisplayMenuScreen.scrollDown.caption, TextId::Scroll},
+      {DisplayMenuScreen.mainArrowA.caption, TextId::KeyArrowA},
+      {DisplayMenuScreen.mainArrowB.caption, TextId::KeyArrowB},
+      {DisplayMenuScreen.moduleHead.caption, TextId::ModuleAddress},
+      {DisplayMenuScreen.outputHead.caption, TextId::OutputCaption},
+      {DisplayMenuScreen.arrowA.caption, TextId::KeyArrowA},
+      {DisplayMenuScreen.arrowB.caption, TextId::KeyArrowB},
+      {DisplayMenuScreen.outputsGroup.caption, TextId::AutomationOutputs},
+      {DisplayMenuScreen.open.label.caption, TextId::OpenOutput},
+      {DisplayMenuScreen.close.label.caption, TextId::CloseOutput},
+      {DisplayMenuScreen.ok.caption, TextId::Ok},
+      {DisplayMenuScreen.outputsLeave.caption, TextId::Leave},
+      {DisplayMenuScreen.leave.caption, TextId::Leave},
+  });
 }
 
 void LoadLine(int line) {
@@ -487,9 +489,8 @@ void LoadLine(int line) {
 }
 
 void LoadPair(AutomationFields& row) {
-  const MenuCategory& category = *CategoryOfCode(Cell(AutomationCode));
-  row.module.items = LetterItems(category.firstLetter, category.lastLetter);
-  row.output.items = NumberItems(1, category.highestOutput);
+  row.module.items = LetterItems(Automation().firstLetter, Automation().lastLetter);
+  row.output.items = NumberItems(1, Automation().highestOutput);
   row.module.onPick = row.output.onPick = MarkChange;
   row.module.onTyped = [&row] { TypeLetter(row.module); };
   row.output.onTyped = [&row] { TypeNumber(row.output); };

@@ -112,15 +112,14 @@ void PickKey() {
 
 /// The module cannot send to itself.
 bool RefuseOwnLetter() {
-  const bool own = CharacterOf(OwnAddress().Whole()) == IrScreen.picker.letter.Text();
+  const bool own = OwnLetter() == IrScreen.picker.letter.Text();
   if (own) Messages->Tell(std::string(Text(TextId::IrToItself)));
   return own;
 }
 
 /// One store fills one row: the next needs its row, or its key, picked first.
 void Put(const ActionCells& cells) {
-  const int cell = ActionCell(IrScreen.row.Index());
-  for (int i = 0; i < ActionSize; ++i) IrImage[cell + i] = cells[static_cast<std::size_t>(i)];
+  PutAction(IrImage, ActionCell(IrScreen.row.Index()), cells);
   ShowRows();
   IrScreen.store.enabled = false;
   SignalChange();
@@ -170,20 +169,14 @@ void LayOutRemote() {
 }
 
 void ShowCaptions() {
-  struct Caption {
-    Field* field;
-    TextId text;
-  };
-  for (const Caption& row : std::to_array<Caption>({
-           {&IrScreen.instruction, TextId::IrInstruction},
-           {&IrScreen.editGroup, TextId::IrEdit},
-           {&IrScreen.rowLabel, TextId::IrRow},
-           {&IrScreen.copy, TextId::CopyToAllIr},
-           {&IrScreen.store, TextId::IrStore},
-           {&IrScreen.leave, TextId::Leave},
-       })) {
-    Show(row.field->caption, row.text);
-  }
+  ShowAll({
+      {IrScreen.instruction.caption, TextId::IrInstruction},
+      {IrScreen.editGroup.caption, TextId::IrEdit},
+      {IrScreen.rowLabel.caption, TextId::IrRow},
+      {IrScreen.copy.caption, TextId::CopyToAllIr},
+      {IrScreen.store.caption, TextId::IrStore},
+      {IrScreen.leave.caption, TextId::Leave},
+  });
 }
 
 }  // namespace
@@ -207,7 +200,7 @@ void LoadIrScreen() {
 }
 
 void OpenIrScreen() {
-  if (const ModuleKind* kind = ActiveKind()) Window.showModel(*kind);
+  ShowActiveModel();
   IrScreen.title = ModuleTitle();
   IrScreen.remote.ClearPick();
   IrScreen.listGroup.visible = IrScreen.editGroup.visible = false;

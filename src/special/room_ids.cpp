@@ -1,5 +1,4 @@
 // The identities of the sensors and LEDs of the rooms, and where their valves are connected.
-#include <array>
 
 #include "actions/action_code.h"
 #include "image/tables.h"
@@ -97,11 +96,15 @@ bool IsPump() {
   return Ids().valve.Index() + 1 == static_cast<int>(Ids().valve.items.size());
 }
 
+/// The letter's cell; that of the output stands behind it.
+int ValveCell() {
+  return IsPump() ? PumpCell : FirstValveCell + 2 * Ids().valve.Index();
+}
 Cell& LetterCell() {
-  return TempTail[IsPump() ? PumpCell : FirstValveCell + 2 * Ids().valve.Index()];
+  return TempTail[ValveCell()];
 }
 Cell& OutputCell() {
-  return TempTail[(IsPump() ? PumpCell : FirstValveCell + 2 * Ids().valve.Index()) + 1];
+  return TempTail[ValveCell() + 1];
 }
 
 void ShowLetter() {
@@ -111,7 +114,7 @@ void ShowLetter() {
 void ShowOutput() {
   constexpr int twoDigits = 9;
   const double place = OutputCell().Number();
-  Ids().output.Show(place < twoDigits ? TwoDigits(101 + place) : PlainText(place + 1));
+  Ids().output.Show(place < twoDigits ? LastTwo(101 + place) : PlainText(place + 1));
 }
 
 /// The text tells where on this module; the fields tell where on another one.
@@ -164,23 +167,17 @@ void BlankValve() {
 }
 
 void ShowCaptions() {
-  struct Caption {
-    Field* field;
-    TextId text;
-  };
-  for (const Caption& row : std::to_array<Caption>({
-           {&Ids().group, TextId::RoomIdsTitle},
-           {&Ids().idsGroup, TextId::IdNumbers},
-           {&Ids().sensor.label, TextId::SensorId},
-           {&Ids().led.label, TextId::LedId},
-           {&Ids().valvesGroup, TextId::ValveOutputs},
-           {&Ids().own, TextId::ThisModuleOption},
-           {&Ids().other, TextId::BusOption},
-           {&Ids().letterLabel, TextId::ModuleAddress},
-           {&Ids().outputLabel, TextId::OutputCaption},
-       })) {
-    Show(row.field->caption, row.text);
-  }
+  ShowAll({
+      {Ids().group.caption, TextId::RoomIdsTitle},
+      {Ids().idsGroup.caption, TextId::IdNumbers},
+      {Ids().sensor.label.caption, TextId::SensorId},
+      {Ids().led.label.caption, TextId::LedId},
+      {Ids().valvesGroup.caption, TextId::ValveOutputs},
+      {Ids().own.caption, TextId::ThisModuleOption},
+      {Ids().other.caption, TextId::BusOption},
+      {Ids().letterLabel.caption, TextId::ModuleAddress},
+      {Ids().outputLabel.caption, TextId::OutputCaption},
+  });
 }
 
 }  // namespace
@@ -194,7 +191,7 @@ void LoadRoomIds() {
   Ids().letter.items = LetterItems('A', 'R');
   Ids().output.items.clear();
   for (int output = 1; output <= Outputs; ++output) {
-    Ids().output.items.push_back(TwoDigits(100 + output));
+    Ids().output.items.push_back(Padded(output));
   }
   Ids().room.onPick = PickRoom;
   Ids().valve.onPick = PickValve;

@@ -48,13 +48,15 @@ PeriodRow& Row(int period) {
   return *Program().periods[static_cast<std::size_t>((period + PeriodsOfDay) % PeriodsOfDay)];
 }
 
+/// The cell of its hour; that of the minute stands behind it.
+int TimeCell(int boundary) {
+  return WeekDays * TimeCells * Program().room.Index() + TempDayTimeBase + 2 * boundary;
+}
 Cell& HourCell(int boundary) {
-  return TempPeriods[WeekDays * TimeCells * Program().room.Index() + TempDayTimeBase +
-                     2 * boundary];
+  return TempPeriods[TimeCell(boundary)];
 }
 Cell& MinuteCell(int boundary) {
-  return TempPeriods[WeekDays * TimeCells * Program().room.Index() + TempDayTimeBase +
-                     2 * boundary + 1];
+  return TempPeriods[TimeCell(boundary) + 1];
 }
 Cell& SetpointCell(int period) {
   return TempSetpoints[WeekDays * SetpointCells * Program().room.Index() + TempDaySetBase + period];
@@ -87,8 +89,8 @@ Colour ColourOf(int degrees, Colour usual) {
 
 /// Both ends of neighbouring periods show the boundary between them.
 void ShowBoundary(int boundary, Colour colour) {
-  const std::string text = TwoDigits(100 + Counted(HourCell(boundary))) + ":" +
-                           TwoDigits(100 + Counted(MinuteCell(boundary)));
+  const std::string text =
+      Padded(Counted(HourCell(boundary))) + ":" + Padded(Counted(MinuteCell(boundary)));
   for (LabelField* label : {&Row(boundary).from, &Row(boundary - 1).to}) {
     label->caption = text;
     label->textColour = colour;

@@ -62,16 +62,19 @@ constexpr int Participants = GridSize * GridSize;
 /// A letter and a number: a participant is only switched by the simulation itself.
 constexpr int ParticipantSize = 2;
 
-constexpr int MostContexts = 50;
-constexpr int MostCodes = 99;
 constexpr std::string_view FreeText = "*";
 
 constexpr auto Sensitivities = std::to_array<TextId>(
     {TextId::SensitivityHighest, TextId::SensitivityHigh, TextId::SensitivityMedium,
      TextId::SensitivityLow, TextId::SensitivityLowest});
 
-/// What can take part: the targets that a light programme has.
-constexpr auto& Types = LightPickerTypes;
+/// What can take part, beside contexts and codes.
+constexpr auto Types = std::to_array<PickerType>({
+    {TextId::RelayModule, RelayKind},
+    {TextId::DimType, DimKind},
+    {TextId::RelayDcModule, RelayDcKind},
+    {TextId::LumenzaModule, LumenzaKind},
+});
 
 Cell& TargetCell(int participant) {
   return SimulationImage[FirstParticipant + ParticipantSize * participant];
@@ -115,7 +118,7 @@ void ShowParticipant(int participant) {
   std::string text(FreeText);
   if (!IsFree(participant)) {
     text = CharacterOf(TargetCell(participant).Whole()) +
-           TwoDigits(IndexCell(participant).Number() + 101);
+           LastTwo(IndexCell(participant).Number() + 101);
   }
   SimulationScreen.participants.Put(participant / GridSize + 1, participant % GridSize, text);
 }
@@ -182,21 +185,15 @@ void OfferNumbers(TextId type, TextId caption, std::vector<std::string> items) {
   SimulationScreen.numberLabel.visible = SimulationScreen.number.visible = true;
 }
 
-std::vector<std::string> CodeNumbers() {
-  std::vector<std::string> items;
-  for (int code = 1; code <= MostCodes; ++code) items.push_back(TwoDigits(100 + code));
-  return items;
-}
-
 /// A module of this kind knows nothing of the installation: the type is chosen by hand. It is no
 /// target of its own.
 void PickLetter() {
   HideLower();
   if (Letter() == ContextLetter) {
-    OfferNumbers(TextId::ContextType, TextId::ContextCaption, NumberItems(1, MostContexts));
+    OfferNumbers(TextId::ContextType, TextId::ContextCaption, NumberItems(1, ContextCount));
   } else if (Letter() == CorvelaLetter) {
     OfferNumbers(TextId::CorvelaType, TextId::CodeCaption, CodeNumbers());
-  } else if (CharacterOf(OwnAddress().Whole()) == SimulationScreen.letter.Text()) {
+  } else if (OwnLetter() == SimulationScreen.letter.Text()) {
     SimulationScreen.type.Show(Text(TextId::Dashes));
     SimulationScreen.type.enabled = false;
   } else {
@@ -256,26 +253,20 @@ void DoubleClick(int row, int column) {
 // --- Opening ------------------------------------------------------------------------------------
 
 void ShowCaptions() {
-  struct Caption {
-    Field* field;
-    TextId text;
-  };
-  for (const Caption& row : std::to_array<Caption>({
-           {&SimulationScreen.frame, TextId::SimulationSettingsFrame},
-           {&SimulationScreen.conditionsGroup, TextId::ConditionsFrame},
-           {&SimulationScreen.sensitivityGroup, TextId::Sensitivity},
-           {&SimulationScreen.stateGroup, TextId::StateFrame},
-           {&SimulationScreen.participantsGroup, TextId::Participants},
-           {&SimulationScreen.editGroup, TextId::EditTitle},
-           {&SimulationScreen.heading, TextId::ModuleTypeHeading},
-           {&SimulationScreen.letterLabel, TextId::ModuleCaption},
-           {&SimulationScreen.typeLabel, TextId::TypeCaption},
-           {&SimulationScreen.editConfirm, TextId::Confirm},
-           {&SimulationScreen.editLeave, TextId::Leave},
-           {&SimulationScreen.leave, TextId::Leave},
-       })) {
-    Show(row.field->caption, row.text);
-  }
+  ShowAll({
+      {SimulationScreen.frame.caption, TextId::SimulationSettingsFrame},
+      {SimulationScreen.conditionsGroup.caption, TextId::ConditionsFrame},
+      {SimulationScreen.sensitivityGroup.caption, TextId::Sensitivity},
+      {SimulationScreen.stateGroup.caption, TextId::StateFrame},
+      {SimulationScreen.participantsGroup.caption, TextId::Participants},
+      {SimulationScreen.editGroup.caption, TextId::EditTitle},
+      {SimulationScreen.heading.caption, TextId::ModuleTypeHeading},
+      {SimulationScreen.letterLabel.caption, TextId::ModuleCaption},
+      {SimulationScreen.typeLabel.caption, TextId::TypeCaption},
+      {SimulationScreen.editConfirm.caption, TextId::Confirm},
+      {SimulationScreen.editLeave.caption, TextId::Leave},
+      {SimulationScreen.leave.caption, TextId::Leave},
+  });
   Show(SimulationScreen.participants.toolTip, TextId::EditHint);
 }
 
@@ -285,7 +276,7 @@ void FillLists() {
   SimulationScreen.type.items.clear();
   for (const PickerType& each : Types) SimulationScreen.type.items.emplace_back(Text(each.name));
   for (int each = 0; each < Switches; ++each) {
-    SimulationScreen.switches[static_cast<std::size_t>(each)]->caption = TwoDigits(101 + each);
+    SimulationScreen.switches[static_cast<std::size_t>(each)]->caption = Padded(each + 1);
   }
   SimulationScreen.participants.columns.assign(GridSize, {"", 1});
   SimulationScreen.participants.Resize(GridSize);
@@ -311,7 +302,7 @@ void LoadSimulationScreen() {
 }
 
 void OpenSimulationScreen() {
-  if (const ModuleKind* kind = ActiveKind()) Window.showModel(*kind);
+  ShowActiveModel();
   SimulationScreen.title = ModuleTitle();
   SimulationScreen.conditions.Fill({&SimulationImage, LightCell, JoiningCell});
   SimulationScreen.sensitivity.Show(SimulationImage[SensitivityCell].Whole());

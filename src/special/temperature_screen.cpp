@@ -1,7 +1,5 @@
 #include "special/temperature_screen.h"
 
-#include <algorithm>
-
 #include "image/commands.h"
 #include "link/link_events.h"
 #include "link/transfer.h"
@@ -76,33 +74,6 @@ TemperatureScreenFields::TemperatureScreenFields()
       status(*this, "status"),
       bar(*this, "bar"),
       leave(*this, "leave") {}
-
-// --- The list of rooms --------------------------------------------------------------------------
-
-std::vector<std::string> RoomNames() {
-  std::vector<std::string> names;
-  const int rooms = std::clamp(TempRoomCount.Whole(), 0, MostRooms);
-  for (int room = 1; room <= rooms; ++room) {
-    names.push_back(std::string(Text(TextId::Room)) + std::to_string(room));
-  }
-  return names;
-}
-
-void AskRoom(ListField& list, std::vector<std::string> items) {
-  list.items = std::move(items);
-  list.Show(Text(TextId::RoomPrompt));
-}
-
-void LoadRoomList(ListField& list, void (*blank)()) {
-  list.onTyped = [&list, blank] {
-    if (list.Index() < 0) {
-      list.Show(Text(TextId::RoomPrompt));
-      blank();
-    } else {
-      list.onPick();
-    }
-  };
-}
 
 // --- The three looks ----------------------------------------------------------------------------
 

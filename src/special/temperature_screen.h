@@ -7,12 +7,12 @@
 #include <string>
 #include <vector>
 
+#include "image/tables.h"
 #include "platform/field.h"
 #include "special/day_bounds.h"
 
 namespace bkconf {
 
-inline constexpr int MostRooms = 8;
 inline constexpr int WeekDays = 7;
 inline constexpr int IdBytes = 8;
 

@@ -118,11 +118,11 @@ TEST(ActionCodeTest, AsStoredNeverCountsTheValueFromOne) {
   EXPECT_EQ(CodeOf({83, 19, 2}, ValueForm::AsStored), "S2002");
 }
 
-TEST(ActionCodeTest, TwoDigitsAreTheLastOnes) {
-  EXPECT_EQ(TwoDigits(107), "07");
-  EXPECT_EQ(TwoDigits(200), "00");
-  EXPECT_EQ(TwoDigits(42), "42");
-  EXPECT_EQ(TwoDigits(7), "7");
+TEST(ActionCodeTest, AskedForTwoDigitsGivesTheLastOnes) {
+  EXPECT_EQ(LastTwo(107), "07");
+  EXPECT_EQ(LastTwo(200), "00");
+  EXPECT_EQ(LastTwo(42), "42");
+  EXPECT_EQ(LastTwo(7), "7");
 }
 
 bool IsTarget(int code) {

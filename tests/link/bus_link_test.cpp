@@ -90,6 +90,7 @@ TEST_F(BusLinkTest, TheInputIsFlushedBeforeThePollAndAfterTheBurst) {
 }
 
 TEST_F(BusLinkTest, AfterTheBurstTheIdentityIsAwaitedEveryTenMilliseconds) {
+  IdentityWait.SetPeriod(70);
   StartWithPoll();
   AnswerPoll();
   EXPECT_FALSE(WakeUpWait.Enabled());
@@ -233,6 +234,7 @@ TEST_F(BusLinkTest, TheLineIsEmptyWhenTheCommandGoesOutSoThatTheAcknowledgeIsRec
 
 TEST_F(BusLinkTest, ACommandGoesOutCharacterByCharacterWithAPauseAfterEachOfItsSix) {
   CharDelayCount = 2000;
+  LinkTick.SetPeriod(70);
   StartWithPoll();
   AnswerPoll();
   line.Receive("DISPL0\r");

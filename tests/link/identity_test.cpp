@@ -202,6 +202,7 @@ TEST_P(SetupStepTest, ShowsBarAndTextOfTheCommand) {
     WriteInProgress = expected.writeInProgress;
     RxLine = "DISPL" + std::to_string(expected.kind);
     ActiveModuleType = expected.kind;
+    CommandSend.SetPeriod(70);
     TestIdentity();
     EXPECT_EQ(MainWindow.status.caption, language == 1 ? expected.dutch : expected.french);
     EXPECT_EQ(MainWindow.transferBar.visible, expected.maximum >= 0);

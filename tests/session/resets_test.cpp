@@ -32,21 +32,11 @@ TEST_F(ResetsTest, ConnectClearsExactlyItsNineCells) {
                              "LcdHeaderDirty", "LcdScreen1Loaded", "LcdScreen2Loaded"});
 }
 
-TEST_F(ResetsTest, ConnectKeepsTheWeekdayNamesAsLoaded) {
-  Clear(ConnectClears);
-  EXPECT_EQ(LcdWeekdayLoaded, Cell(1));
-}
-
 TEST_F(ResetsTest, NewClearsExactlyItsSixCells) {
   const Snapshot before = TakeSnapshot();
   Clear(NewClears);
   ExpectOnlyChanged(before, {"LcdScreen1Dirty", "LcdScreen2Dirty", "LcdScreen1Loaded",
                              "LcdScreen2Loaded", "LcdWeekdayLoaded", "LcdWeekdayDirty"});
-}
-
-TEST_F(ResetsTest, NewKeepsTheHeaderOfTheDisplayAsChanged) {
-  Clear(NewClears);
-  EXPECT_EQ(LcdHeaderDirty, Cell(1));
 }
 
 TEST_F(ResetsTest, WhatIsClearedBecomesTheNumberZero) {

@@ -117,7 +117,7 @@ TEST_F(OpenDialogTest, AHiddenDirectoryIsListedAfterItWasLeft) {
 
 TEST_F(OpenDialogTest, ADefaultDirectoryThatIsNoWholePathIsNone) {
   ShowDialog();
-  EXPECT_FALSE(OpenDialog.lists.CanGoTo("house"));
+  EXPECT_FALSE(OpenDialog.lists.TryGoTo("house"));
   EXPECT_EQ(OpenDialog.lists.Path(), "/house");
 }
 

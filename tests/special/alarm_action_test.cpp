@@ -2,6 +2,7 @@
 
 #include "image/tables.h"
 #include "special/alarm_screen_test.h"
+#include "special/composed_action.h"
 
 namespace bkconf {
 namespace {
@@ -146,42 +147,6 @@ TEST_F(AlarmActionTest, AnyOtherLetterAsksForTheType) {
     EXPECT_EQ(Picker().type.Text(), language == 1 ? "Module type?" : "Type module?");
     EXPECT_TRUE(Picker().type.enabled);
   }
-}
-
-/// What is picked, and what is stored of it.
-struct Composed {
-  std::string name;
-  void (*pick)(ActionPicker&);
-  ActionCells cells;
-  std::string code;
-};
-
-void PrintTo(const Composed& row, std::ostream* out) {
-  *out << row.name;
-}
-
-void PickOutput(ActionPicker& picker, int type, int output, int action) {
-  picker.letter.Pick(0);
-  picker.type.Pick(type);
-  picker.output.list.Pick(output);
-  picker.action.list.Pick(action);
-}
-
-void PickZone(ActionPicker& picker, OptionField& zone, int number, int action, int value) {
-  picker.letter.Pick('H' - 'A');
-  picker.type.Pick(Audio);
-  zone.Choose();
-  picker.output.list.Pick(number);
-  picker.action.list.Pick(action);
-  picker.value.list.Pick(value);
-}
-
-void PickRoom(ActionPicker& picker, std::size_t choice, int room, int degrees) {
-  picker.letter.Pick('R' - 'A');
-  picker.type.Pick(Temperature);
-  picker.temperatures.at(choice).option.Choose();
-  picker.temperatures.at(choice).room.Pick(room);
-  picker.temperatures.at(choice).temperature.Pick(degrees);
 }
 
 const std::vector<Composed> ComposedActions = {

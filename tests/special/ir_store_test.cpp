@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "image/module_directory.h"
+#include "special/composed_action.h"
 #include "special/ir_screen_test.h"
 #include "special/random_edits.h"
 
@@ -47,49 +48,13 @@ class IrStoreTest : public IrScreenTest {
 
 // --- What is stored -----------------------------------------------------------------------------
 
-/// What is picked, and what is stored of it.
-struct IrAction {
-  std::string name;
-  void (*pick)(ActionPicker&);
-  ActionCells cells;
-  std::string code;
-};
-
-void PrintTo(const IrAction& row, std::ostream* out) {
-  *out << row.name;
-}
-
-void PickOutput(ActionPicker& picker, int type, int output, int action) {
-  picker.letter.Pick(0);
-  picker.type.Pick(type);
-  picker.output.list.Pick(output);
-  picker.action.list.Pick(action);
-}
-
-void PickZone(ActionPicker& picker, OptionField& zone, int number, int action, int value) {
-  picker.letter.Pick('H' - 'A');
-  picker.type.Pick(Audio);
-  zone.Choose();
-  picker.output.list.Pick(number);
-  picker.action.list.Pick(action);
-  picker.value.list.Pick(value);
-}
-
-void PickRoom(ActionPicker& picker, std::size_t choice, int room, int degrees) {
-  picker.letter.Pick('R' - 'A');
-  picker.type.Pick(Temperature);
-  picker.temperatures.at(choice).option.Choose();
-  picker.temperatures.at(choice).room.Pick(room);
-  picker.temperatures.at(choice).temperature.Pick(degrees);
-}
-
 void PickSimulation(ActionPicker& picker, OptionField& choice) {
   picker.letter.Pick('G' - 'A');
   picker.type.Pick(Simulation);
   choice.Choose();
 }
 
-const std::vector<IrAction> IrActions = {
+const std::vector<Composed> IrActions = {
     {"Relay", [](auto& p) { PickOutput(p, Relay, 11, 2); }, {'A', 11, 2}, "A1202"},
     {"RelayDc", [](auto& p) { PickOutput(p, RelayDc, 0, 0); }, {'A', 0, 0}, "A0100"},
     {"DimmerToggle", [](auto& p) { PickOutput(p, Dimmer, 3, 2); }, {'A', 3, 2}, "A0402"},
@@ -131,7 +96,7 @@ const std::vector<IrAction> IrActions = {
      "Z0599"},
 };
 
-class IrActionTest : public IrStoreTest, public testing::WithParamInterface<IrAction> {};
+class IrActionTest : public IrStoreTest, public testing::WithParamInterface<Composed> {};
 
 TEST_P(IrActionTest, IsStoredInTheRowOfTheKey) {
   for (const auto& [key, row] : std::vector<std::pair<int, int>>{{0, 1}, {7, 3}, {12, 4}}) {

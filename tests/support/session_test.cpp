@@ -8,6 +8,7 @@
 #include "diagnostics/clock_panel.h"
 #include "diagnostics/detector_panel.h"
 #include "diagnostics/diagnostics_screen.h"
+#include "diagnostics/live_test.h"
 #include "image/tables.h"
 #include "link/link_ticks.h"
 #include "link/transfer.h"
@@ -51,6 +52,7 @@ void ResetGlobals() {
   Now = LocalNow;
   RxLine.clear();
   TransferUnderWay = false;
+  RunningTest = nullptr;
   LinkHandlers = {};
   ActionHandlers = {};
   MakeAnew(MainWindow);
@@ -194,7 +196,7 @@ void SessionTest::StartWithImage(int kind, int language, char letter) {
   ActiveModuleType = kind;
   const ModuleKind& row = *FindKind(kind);
   for (int cell = 0; cell < row.version.table->Size(); ++cell) (*row.version.table)[cell] = 42;
-  if (row.address.table != nullptr) (*row.address.table)[row.address.index] = int{letter};
+  if (row.address.table != nullptr) CellAt(row.address) = int{letter};
   ShowImage(Origin::File);
 }
 

@@ -75,7 +75,9 @@ class FakePrograms : public Programs {
   std::vector<std::string> events;  ///< "start upgrade.exe", "start this program", "end"
 };
 
-/// Sets every global back to what a new process has, and puts the stand-ins behind the platform.
+/// Puts the stand-ins behind the platform, and sets tables, flags, link and screens back to what a
+/// new process has. What the files of the screens keep to themselves, as the context or detector
+/// that is being edited, stays from the test before: each opening sets it anew.
 class SessionTest : public testing::Test {
  public:
   SessionTest();
@@ -120,8 +122,9 @@ inline constexpr int AllKinds[] = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 11};
 /// when there is none.
 const ButtonField& ShownAction(Action action);
 
-/// What the action buttons of the kind in memory are: all visible ones enabled, none, or a mix.
+/// The captions of the action buttons that the window shows, in their order.
 std::vector<std::string> VisibleActions();
+/// False when one of them cannot be pressed.
 bool AllVisibleActionsEnabled();
 
 }  // namespace bkconf

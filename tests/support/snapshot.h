@@ -21,7 +21,8 @@ using Snapshot = std::map<std::string, Cell>;
 Snapshot TakeSnapshot();
 
 /// Fails for each cell that differs from `before` and is not named, and for each name under which
-/// nothing changed. A name may hold a range: "TimeProgramTable[0..8]".
+/// nothing changed. A name may hold a range, as
+/// "TimeProgramTable[0..8]": one changed cell in it is enough, the others may have stayed.
 void ExpectOnlyChanged(const Snapshot& before, const std::vector<std::string>& names);
 
 }  // namespace bkconf

@@ -9,7 +9,6 @@ using namespace bkconf;
 
 namespace {
 
-constexpr int AlarmKind = 5;
 constexpr int AddressCell = 121;
 constexpr int DelayCell = 124;
 constexpr int ServiceCell = 136;

@@ -9,7 +9,6 @@ using namespace bkconf;
 
 namespace {
 
-constexpr int AudioKind = 6;
 constexpr int SurroundCell = 129;
 constexpr int SourcesCell = 130;
 constexpr int ZonesCell = 131;

@@ -19,7 +19,6 @@ using namespace bkconf;
 
 namespace {
 
-constexpr int DisplayKind = 3;
 constexpr int FirstLineText = 72;
 constexpr int FirstCategory = 695;
 constexpr int FirstOutput = 780;

@@ -9,7 +9,6 @@ using namespace bkconf;
 
 namespace {
 
-constexpr int IrKind = 8;
 constexpr int FirstAction = 125;
 constexpr int RowSize = 48;
 constexpr int OnOff = 10;

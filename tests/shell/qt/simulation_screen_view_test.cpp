@@ -11,7 +11,6 @@ using namespace bkconf;
 
 namespace {
 
-constexpr int SimulationKind = 7;
 constexpr int StateCell = 123;
 constexpr int LightCell = 125;
 constexpr int SensitivityCell = 132;

@@ -15,7 +15,6 @@ using namespace bkconf;
 
 namespace {
 
-constexpr int TemperatureKind = 2;
 constexpr int OwnLetter = 'E';
 constexpr int Rooms = 3;
 constexpr int DayCells = 12;

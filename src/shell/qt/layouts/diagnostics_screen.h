@@ -9,6 +9,7 @@
 
 #include "diagnostics/diagnostics_screen.h"
 #include "shell/qt/layout.h"
+#include "shell/qt/layouts/status_row.h"
 
 namespace bkconf {
 
@@ -87,9 +88,7 @@ inline Part DiagnosticsScreenLayout() {
             Kept(TestPart("detectors", DetectorTablePart(), {Item("update")})),
             TestPart("light", Row({Value(12, "lightLevel"), Space()})), ClockPart(),
             TestPart("outputs", Tiles(outputsInRow, std::move(outputs)))});
-  return Column(
-      {Row({left, Share(1, panels)}), Rule(),
-       Row({Share(2, Item("status")), Share(1, Labelled("status", "bar")), Item("leave")})});
+  return Column({Row({left, Share(1, panels)}), Rule(), StatusRow()});
 }
 
 }  // namespace bkconf
