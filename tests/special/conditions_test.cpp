@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "image/tables.h"
+#include "support/open_screen.h"
 #include "support/session_test.h"
 
 namespace bkconf {
@@ -89,7 +90,7 @@ class ConditionsTest : public SessionTest, public testing::WithParamInterface<Pl
   PeriodFields& First() { return fields.periods[0]; }
   PeriodFields& Second() { return fields.periods[1]; }
 
-  Screen screen{"Some"};
+  OpenScreen screen;
   ConditionFields fields{screen};
 };
 

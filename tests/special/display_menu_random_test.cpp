@@ -68,7 +68,7 @@ TEST_F(DisplayRandomTest, TenThousandRandomEditsChangeNoCellButThoseOfTheTwoDisp
   Open();
   const Snapshot before = TakeSnapshot();
   // To see more of a display than its first screen before it is left.
-  RandomEdits staying(DisplayMenuScreen, 5, {"leave"});
+  RandomEdits staying(DisplayMenuScreen, 15, {"leave"});
   RandomEdits all(DisplayMenuScreen, 6, {});
   for (int step = 0; step < 10'000; ++step) {
     Step(step % 500 < 300 ? staying : all, step);
