@@ -246,6 +246,7 @@ void LayOut() {
   fields->modules.columns = {{std::string(Text(TextId::ModuleColumn)), 1000},
                              {std::string(Text(TextId::AddressColumn)), 1000},
                              {std::string(Text(TextId::TypeColumn)), 2000}};
+  fields->modules.rowIsEntry = true;
   fields->modules.Resize(DirectoryRows);
   for (ListField* list : {&fields->down, &fields->up}) {
     list->items = NumberItems(0, LongestCorrection);

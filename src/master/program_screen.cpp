@@ -147,6 +147,7 @@ void ProgramScreen::LoadList(std::vector<GridField::Column> momentColumns) {
   picker.Load();
   picker.onTarget = [this] { ShowMoment(picker.TargetKnown()); };
   programs.onSelect = [this](int row, int) { ShowDescription(row); };
+  programs.rowIsEntry = true;
   programs.onDoubleClick = [this](int row, int) { DoubleClick(row); };
   deleteYes.onClick = [this] { Delete(); };
   deleteNo.onClick = [this] { ShowPanel(nullptr); };

@@ -216,6 +216,9 @@ struct GridField : Field {
 
   std::vector<Column> columns;
   bool rowHeader = false;  ///< column 0 is a header that is never current
+  /// Each row is an entry of its own behind its number in column 0: to open it, any cell of it will
+  /// do.
+  bool rowIsEntry = false;
   std::function<void(int row, int column)> onSelect;       ///< runs after a cell became current
   std::function<void(int row, int column)> onDoubleClick;  ///< also on captions and headers
 

@@ -94,6 +94,7 @@ class GridView::Model : public QAbstractTableModel {
     return row < 1 ? QModelIndex() : index(row - 1, column - headers_);
   }
   bool HasHeaders() const { return headers_ == 1; }
+  bool RowIsEntry() const { return field_.rowIsEntry; }
   bool HasCaptions() const {
     return std::any_of(columns_.begin(), columns_.end(),
                        [](const auto& column) { return !column.caption.empty(); });
@@ -256,8 +257,17 @@ class GridView::Table : public QTableView {
   void PressOn(int key) {
     const QModelIndex cell = currentIndex();
     if (!cell.isValid()) return;
-    if (cell.data().toString().isEmpty() != (key == Qt::Key_Insert)) return;
+    if (IsFree(cell) != (key == Qt::Key_Insert)) return;
     view_.DoubleClick(rows_->RowOf(cell), rows_->ColumnOf(cell));
+  }
+
+  /// The keys that enter and take away go by what the double click is about.
+  bool IsFree(const QModelIndex& cell) const {
+    if (!rows_->RowIsEntry()) return cell.data().toString().isEmpty();
+    for (int column = 1; column < rows_->columnCount(); ++column) {
+      if (!cell.siblingAtColumn(column).data().toString().isEmpty()) return false;
+    }
+    return true;
   }
 
   int TotalShare() const {

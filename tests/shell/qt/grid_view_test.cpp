@@ -224,6 +224,26 @@ class GridViewTest : public QObject {
                                       "select 4 1", "open 4 1"}));
   }
 
+  void WhereARowIsAnEntryTheKeysGoByTheRow() {
+    screen_->grid.rowHeader = false;
+    screen_->grid.rowIsEntry = true;
+    screen_->grid.Put(2, 1, "");
+    window_->Refresh();
+    // Column 0 has a number in every row; row 2 has a text in its last column alone.
+    for (const int row : {1, 3}) {
+      for (const int column : {0, 1}) {
+        Click(Grid(), row, column);
+        screen_->events.clear();
+        QTest::keyClick(Grid(), Qt::Key_Insert);
+        const bool free = row == 3;
+        QCOMPARE(screen_->events.size(), free ? 2 : 0);
+        screen_->events.clear();
+        QTest::keyClick(Grid(), Qt::Key_Delete);
+        QCOMPARE(screen_->events.size(), free ? 0 : 2);
+      }
+    }
+  }
+
   void InsertOpensTheCellOfTheCursorBeforeAnyIsSelected() {
     screen_->grid.Put(1, 1, "");
     window_->Refresh();
