@@ -101,12 +101,19 @@ TEST_F(ToolWithFault, ModuleSilentAfterItsIdentityLeavesAWindowThatRepaints) {
   CloseTool();
 }
 
-TEST_F(ToolWithFault, ModuleThatStopsWithinALineLeavesAWindowThatRepaints) {
+// The rest of a line is waited for without end, and the window with it. The plug is the way out.
+TEST_F(ToolWithFault, ModuleThatStopsWithinALineHoldsTheWindowUntilItIsUnplugged) {
   Connect(0, "stops-within-line");
   AwaitOnLine(true, "T80000\\r");
-  AwaitText("Inladen van de gegevens...");
-  ExpectTransferUnderWay();
-  ExpectWindowRepaints();
+  const bool torn = WaitFor([&] {
+    const auto units = Log();
+    return !units.empty() && !units.back().fromTool && !units.back().text.ends_with("\\r");
+  });
+  ASSERT_TRUE(torn) << "no line was left in its middle";
+  EXPECT_TRUE(tool().Running());
+  module().End();
+  ExpectMessage(portFailed);
+  ExpectIdle();
   CloseTool();
 }
 
