@@ -85,7 +85,7 @@ class AlarmScreenViewTest : public QObject, private ScreenStage {
 
   // --- A detector
   void WithoutADetectorThereIsNothingButTheList() {
-    QCOMPARE(List("detector")->placeholderText(), Say(TextId::DetectorPrompt));
+    QCOMPARE(List("detector")->placeholderText(), InQt(TextId::DetectorPrompt));
     QCOMPARE(FieldInFocus(), QStringLiteral("detector"));
     QVERIFY(!Find<QCheckBox>("inService")->isVisible());
     for (const char* name : {"triggerAction", "endAction", "noCondition", "level", "period1From",
@@ -100,7 +100,7 @@ class AlarmScreenViewTest : public QObject, private ScreenStage {
     PickRow("detector", 0);
     const auto* service = Find<QCheckBox>("inService");
     QVERIFY(service->isVisible() && service->isChecked());
-    QCOMPARE(service->text(), Say(TextId::InService));
+    QCOMPARE(service->text(), InQt(TextId::InService));
     QCOMPARE(CellOf("triggerAction"), QStringLiteral("S0502"));
     QCOMPARE(CellOf("endAction"), QStringLiteral("Z0513"));
     QCOMPARE(List("level")->currentText(), QStringLiteral("12"));
@@ -109,7 +109,7 @@ class AlarmScreenViewTest : public QObject, private ScreenStage {
     QVERIFY(Find<QRadioButton>("both")->isChecked());
     QCOMPARE(List("delay")->currentText(), QStringLiteral("15"));
     PickRow("detector", 1);
-    QCOMPARE(service->text(), Say(TextId::OutOfService));
+    QCOMPARE(service->text(), InQt(TextId::OutOfService));
     QCOMPARE(CellOf("endAction"), QStringLiteral("***"));
     QVERIFY(Find<QCheckBox>("atOnce")->isChecked() && !List("delay")->isEnabled());
   }
@@ -120,7 +120,7 @@ class AlarmScreenViewTest : public QObject, private ScreenStage {
     QCOMPARE(Place(service).center().y(), Place(List("detector")).center().y());
     service->setFocus();
     QTest::keyClick(service, Qt::Key_Space);
-    QCOMPARE(service->text(), Say(TextId::InService));
+    QCOMPARE(service->text(), InQt(TextId::InService));
     QCOMPARE(AlarmImage[ServiceCell + 1].Whole(), 1);
   }
 
@@ -152,7 +152,7 @@ class AlarmScreenViewTest : public QObject, private ScreenStage {
   void TheHoursStandWithinTheirWords() {
     PickRow("detector", 0);
     const auto expectWithin = [this](const char* label, const char* list, TextId caption) {
-      const QStringList words = Say(caption).simplified().split(u' ');
+      const QStringList words = InQt(caption).simplified().split(u' ');
       const QLabel* before = Label(label);
       QCOMPARE(before->text(), words.first());
       const auto labels = Panel("timeGroup")->findChildren<QLabel*>();
@@ -161,7 +161,7 @@ class AlarmScreenViewTest : public QObject, private ScreenStage {
       });
       QVERIFY(after != labels.end());
       QVERIFY(Place(before).right() < Place(List(list)).left());
-      QCOMPARE(List(list)->accessibleName(), Say(caption).simplified());
+      QCOMPARE(List(list)->accessibleName(), InQt(caption).simplified());
     };
     expectWithin("period1FromLabel", "period1From", TextId::FromHour);
     expectWithin("period2ToLabel", "period2To", TextId::ToHour);
@@ -197,9 +197,9 @@ class AlarmScreenViewTest : public QObject, private ScreenStage {
                                          std::pair("endGroup", TextId::EndAction)}) {
       const auto labels = Panel(group)->findChildren<QLabel*>();
       QCOMPARE(labels.size(), 1);
-      QCOMPARE(labels.front()->text(), Say(caption));
+      QCOMPARE(labels.front()->text(), InQt(caption));
       QVERIFY(labels.front()->height() >= labels.front()->heightForWidth(labels.front()->width()));
-      QCOMPARE(Panel(group)->accessibleName(), Say(caption).simplified());
+      QCOMPARE(Panel(group)->accessibleName(), InQt(caption).simplified());
     }
     QCOMPARE(Place(Panel("triggerGroup")).height(), Place(Panel("endGroup")).height());
   }

@@ -117,7 +117,7 @@ class AudioScreenViewTest : public QObject, private ScreenStage {
     const QRect box = Place(Find<QCheckBox>("surround"));
     PickRow("zone", 1);
     QVERIFY(Label("surroundHint")->isVisible());
-    QCOMPARE(Label("surroundHint")->text(), Say(TextId::UsedForSurround));
+    QCOMPARE(Label("surroundHint")->text(), InQt(TextId::UsedForSurround));
     QCOMPARE(Place(Label("surroundHint")).left(), box.left());
     QCOMPARE(Place(Label("surroundHint")).center().y(), box.center().y());
     QCOMPARE(List("mainVolume")->currentText(), QStringLiteral("3"));
@@ -133,8 +133,8 @@ class AudioScreenViewTest : public QObject, private ScreenStage {
     QCOMPARE(Place(Panel("mainGroup")).height(), Place(Panel("secondaryGroup")).height());
     QVERIFY(Place(Panel("mainGroup")).right() < Place(Panel("secondaryGroup")).left());
     QCOMPARE(Place(List("source")).left(), Place(List("gain")).left());
-    QCOMPARE(Panel("mainGroup")->title(), Say(TextId::MainZone));
-    QCOMPARE(Panel("secondaryGroup")->title(), Say(TextId::SecondaryZone));
+    QCOMPARE(Panel("mainGroup")->title(), InQt(TextId::MainZone));
+    QCOMPARE(Panel("secondaryGroup")->title(), InQt(TextId::SecondaryZone));
   }
 
   void NothingMovesFromOneStateToAnother() {

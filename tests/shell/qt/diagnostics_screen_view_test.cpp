@@ -99,7 +99,7 @@ class DiagnosticsScreenViewTest : public QObject, private ScreenStage {
     Tell(DetectorLine(0, true));
     Tell(DetectorLine(1, false));
     ExpectColour(Label("detector1Contact"), QPalette::Window, TriggerColour);
-    QCOMPARE(Label("detector1Contact")->text(), Say(TextId::ContactTrigger));
+    QCOMPARE(Label("detector1Contact")->text(), InQt(TextId::ContactTrigger));
     ExpectColour(Label("detector2Contact"), QPalette::Window, RestColour);
     ExpectColour(Label("detector3Contact"), QPalette::Window, PanelColour);
     Tell(DetectorLine(0, false));
@@ -141,7 +141,7 @@ class DiagnosticsScreenViewTest : public QObject, private ScreenStage {
     ShowState(StateOf("later relay"));
     const QLabel* notice = Label("notice");
     QVERIFY(notice->isVisible());
-    QCOMPARE(notice->text(), Say(TextId::UseZentrix));
+    QCOMPARE(notice->text(), InQt(TextId::UseZentrix));
     ExpectColour(notice, QPalette::Window, RestColour);
     QVERIFY(notice->heightForWidth(notice->width()) <= notice->height());
     QVERIFY(Button("lineChoice")->isEnabled() && !Button("outputsChoice")->isEnabled());
@@ -159,15 +159,15 @@ class DiagnosticsScreenViewTest : public QObject, private ScreenStage {
     }
     QTest::keyClick(Window()->focusWidget(), Qt::Key_Return);
     StopLink();
-    QCOMPARE(Label("status")->text(), Say(TextId::SearchingModule));
+    QCOMPARE(Label("status")->text(), InQt(TextId::SearchingModule));
     QVERIFY(!Button("buttonsStop")->isEnabled());
     AcceptTest();
-    QCOMPARE(Label("status")->text(), Say(TextId::TestingButtons));
+    QCOMPARE(Label("status")->text(), InQt(TextId::TestingButtons));
     while (Window()->focusWidget() != Button("buttonsStop")) {
       QTest::keyClick(Window(), Qt::Key_Tab);
     }
     QTest::keyClick(Window()->focusWidget(), Qt::Key_Return);
-    QCOMPARE(Label("status")->text(), Say(TextId::Ready));
+    QCOMPARE(Label("status")->text(), InQt(TextId::Ready));
     QVERIFY(Button("buttonsStart")->isEnabled() && Button("leave")->isEnabled());
   }
 
@@ -307,10 +307,10 @@ class DiagnosticsScreenViewTest : public QObject, private ScreenStage {
     End();
     QVERIFY(Button("synchronise")->isEnabled());
     Press("synchronise");
-    QCOMPARE(Label("status")->text(), Say(TextId::SendingClock));
+    QCOMPARE(Label("status")->text(), InQt(TextId::SendingClock));
     RunEvent([] { ClockSend.Run(); });
     RunEvent([] { ClockSend.Run(); });
-    QCOMPARE(Button("synchronise")->text(), Say(TextId::Ok));
+    QCOMPARE(Button("synchronise")->text(), InQt(TextId::Ok));
     QVERIFY(!Button("synchronise")->isEnabled());
     QCOMPARE(Label("masterClockDate")->text(), QStringLiteral("29-02-2024"));
   }

@@ -148,9 +148,9 @@ class DisplayScreensViewTest : public QObject, private ScreenStage {
     QCOMPARE(Menus()->currentRow(), 0);
     QCOMPARE(Menus()->count(), MenuScreens);
     QCOMPARE(FieldInFocus(), QStringLiteral("screens"));
-    QCOMPARE(Panel("frame")->title(), Say(TextId::MainScreen));
+    QCOMPARE(Panel("frame")->title(), InQt(TextId::MainScreen));
     QCOMPARE(Find<QLineEdit>("name")->text(), QStringLiteral("Living      "));
-    QCOMPARE(List("category")->currentText(), Say(TextId::Sockets));
+    QCOMPARE(List("category")->currentText(), InQt(TextId::Sockets));
     QCOMPARE(List("line3Module")->currentText(), QStringLiteral("B"));
     QCOMPARE(List("line3Output")->currentText(), QStringLiteral("3"));
     QVERIFY(!Button("line3Outputs")->isEnabled());
@@ -160,7 +160,7 @@ class DisplayScreensViewTest : public QObject, private ScreenStage {
     ShowState(StateOf("menu"));
     QTest::keyClick(Menus(), Qt::Key_Down);
     QCOMPARE(DisplayMenuScreen.screens.Index(), 1);
-    QCOMPARE(List("category")->currentText(), Say(TextId::Automations));
+    QCOMPARE(List("category")->currentText(), InQt(TextId::Automations));
     QVERIFY(Button("line1Outputs")->isEnabled());
   }
 
@@ -177,12 +177,12 @@ class DisplayScreensViewTest : public QObject, private ScreenStage {
         QVERIFY(qAbs(place.center().y() - Place(Label(name.constData())).center().y()) <= 1);
       }
     }
-    QCOMPARE(Button("line1Outputs")->text(), Say(TextId::OutputsChoice));
-    QCOMPARE(Label("moduleHead")->text(), Say(TextId::ModuleAddress));
+    QCOMPARE(Button("line1Outputs")->text(), InQt(TextId::OutputsChoice));
+    QCOMPARE(Label("moduleHead")->text(), InQt(TextId::ModuleAddress));
     QCOMPARE(Place(Label("moduleHead")).left(), Place(List("line1Module")).left());
     QCOMPARE(Place(Label("outputHead")).left(), Place(List("line1Output")).left());
     QCOMPARE(List("line2Output")->accessibleName(),
-             Say(TextId::OutputCaption) + QStringLiteral(" 2"));
+             InQt(TextId::OutputCaption) + QStringLiteral(" 2"));
   }
 
   void WhatIsTypedAndPickedReachesTheTable() {
@@ -219,7 +219,7 @@ class DisplayScreensViewTest : public QObject, private ScreenStage {
     button->setFocus();
     QTest::keyClick(button, Qt::Key_Space);
     QVERIFY(Panel("outputsGroup")->isVisible());
-    QCOMPARE(Panel("outputsGroup")->title(), Say(TextId::AutomationOutputs));
+    QCOMPARE(Panel("outputsGroup")->title(), InQt(TextId::AutomationOutputs));
     QCOMPARE(FieldInFocus(), QStringLiteral("openModule"));
     QCOMPARE(Window()->size(), size);
     QCOMPARE(Place(List("line4Module")), line);
@@ -268,7 +268,7 @@ class DisplayScreensViewTest : public QObject, private ScreenStage {
     Press("ok");
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     QVERIFY(box != nullptr);
-    QCOMPARE(box->text(), Say(TextId::NotComplete));
+    QCOMPARE(box->text(), InQt(TextId::NotComplete));
     QVERIFY(Panel("outputsGroup")->isVisible());
     box->button(QMessageBox::Cancel)->click();
     QVERIFY(!Panel("outputsGroup")->isVisible());
@@ -277,7 +277,7 @@ class DisplayScreensViewTest : public QObject, private ScreenStage {
   // --- The weekdays
   void EachWeekdayIsTypedAsItStandsOnTheDisplay() {
     ShowState(StateOf("weekdays"));
-    QCOMPARE(Label("day1Label")->text(), Say(TextId::Sunday));
+    QCOMPARE(Label("day1Label")->text(), InQt(TextId::Sunday));
     QCOMPARE(FieldInFocus(), QStringLiteral("day1"));
     QCOMPARE(Find<QLineEdit>("day1")->text(), QStringLiteral("ZO "));
     QVERIFY(QFontInfo(Find<QLineEdit>("day2")->font()).fixedPitch());
@@ -306,7 +306,7 @@ class DisplayScreensViewTest : public QObject, private ScreenStage {
       EndRead();
       QVERIFY(!Find<QProgressBar>("bar")->isVisible());
       QVERIFY(Button("leave")->isEnabled());
-      QCOMPARE(Label("status")->text(), Say(TextId::EditMode));
+      QCOMPARE(Label("status")->text(), InQt(TextId::EditMode));
       QTest::keyClick(Window(), Qt::Key_Escape);
       QVERIFY(!Window()->isVisible());
     }

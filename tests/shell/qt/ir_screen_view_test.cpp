@@ -65,7 +65,7 @@ class IrScreenViewTest : public QObject, private ScreenStage {
   // --- The remote control
   void WithoutAKeyThereIsOnlyTheRemoteControl() {
     ShowState(StateOf("no key"));
-    QCOMPARE(Label("instruction")->text(), Say(TextId::IrInstruction));
+    QCOMPARE(Label("instruction")->text(), InQt(TextId::IrInstruction));
     QVERIFY(!Panel("listGroup")->isVisible() && !Panel("editGroup")->isVisible());
     QCOMPARE(FieldInFocus(), QStringLiteral("remote"));
     for (int key = 0; key < Keys; ++key) QVERIFY(!Key(key)->isChecked());
@@ -76,10 +76,10 @@ class IrScreenViewTest : public QObject, private ScreenStage {
     for (int key = 0; key < Keys; ++key) {
       QTest::mouseClick(Key(key), Qt::LeftButton);
       QVERIFY(!Key(key)->accessibleName().isEmpty());
-      QString title = Say(TextId::ActionsOfKey) + QString::number(key);
-      if (key == OnOff) title = Say(TextId::ActionsOfOnOff);
-      if (key == OnOff + 1) title = Say(TextId::ActionsOfChannelUp);
-      if (key == OnOff + 2) title = Say(TextId::ActionsOfChannelDown);
+      QString title = InQt(TextId::ActionsOfKey) + QString::number(key);
+      if (key == OnOff) title = InQt(TextId::ActionsOfOnOff);
+      if (key == OnOff + 1) title = InQt(TextId::ActionsOfChannelUp);
+      if (key == OnOff + 2) title = InQt(TextId::ActionsOfChannelDown);
       QCOMPARE(Panel("listGroup")->title(), title);
       QVERIFY(Key(key)->isChecked());
     }
@@ -123,7 +123,7 @@ class IrScreenViewTest : public QObject, private ScreenStage {
     ShowState(StateOf("no key"));
     QTest::keyClick(Window()->focusWidget(), Qt::Key_7);
     QCOMPARE(IrScreen.remote.Picked(), 7);
-    QCOMPARE(Panel("listGroup")->title(), Say(TextId::ActionsOfKey) + u'7');
+    QCOMPARE(Panel("listGroup")->title(), InQt(TextId::ActionsOfKey) + u'7');
   }
 
   // --- Its actions
@@ -135,7 +135,7 @@ class IrScreenViewTest : public QObject, private ScreenStage {
       QCOMPARE(Label(name.constData())->text(), QString::number(row));
       QCOMPARE(Label((name + "Code").constData())->text(),
                filled ? QStringLiteral("A0502") : QStringLiteral("***"));
-      QCOMPARE(Button((name + "Erase").constData())->text(), Say(TextId::EraseRow));
+      QCOMPARE(Button((name + "Erase").constData())->text(), InQt(TextId::EraseRow));
       QCOMPARE(Place(Label((name + "Code").constData())).center().y(),
                Place(Button((name + "Erase").constData())).center().y());
     }
@@ -176,7 +176,7 @@ class IrScreenViewTest : public QObject, private ScreenStage {
   void OnlyFourRowsAreOfferedToBeFilled() {
     ShowState(StateOf("key"));
     QCOMPARE(List("row")->count(), 4);
-    QCOMPARE(Panel("editGroup")->title(), Say(TextId::IrEdit));
+    QCOMPARE(Panel("editGroup")->title(), InQt(TextId::IrEdit));
   }
 
   void TheModuleItselfIsNoTarget() {
@@ -184,7 +184,7 @@ class IrScreenViewTest : public QObject, private ScreenStage {
     Pick("pickerLetter", "J");
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     QVERIFY(box != nullptr);
-    QCOMPARE(box->text(), Say(TextId::IrToItself));
+    QCOMPARE(box->text(), InQt(TextId::IrToItself));
     box->close();
     QVERIFY(!List("pickerOutput")->isVisible());
   }

@@ -24,7 +24,7 @@ class MasterScreensViewTest : public QObject, private MasterStage {
     QCOMPARE(CellText(0, 4), QStringLiteral("A0502"));
     QCOMPARE(CellText(1, 1), QStringLiteral("A0702"));
     QCOMPARE(CellText(1, 2), QString());
-    QCOMPARE(List("chooser")->currentText(), Say(TextId::ContextSentence) + u'2');
+    QCOMPARE(List("chooser")->currentText(), InQt(TextId::ContextSentence) + u'2');
   }
 
   void TheArrowKeysGoFromActionToActionAndTellEachInWords() {
@@ -44,7 +44,7 @@ class MasterScreensViewTest : public QObject, private MasterStage {
 
   void NothingOpensWithoutAContext() {
     Show(ContextScreen, OpenContextScreen);
-    QCOMPARE(List("chooser")->placeholderText(), Say(TextId::ContextPrompt));
+    QCOMPARE(List("chooser")->placeholderText(), InQt(TextId::ContextPrompt));
     DoubleClick(0, 0);
     QVERIFY(!Panel("editGroup")->isVisible() && !Panel("deleteGroup")->isVisible());
   }
@@ -54,10 +54,10 @@ class MasterScreensViewTest : public QObject, private MasterStage {
     ClickCell(3, 2);
     QTest::keyClick(Grid(), Qt::Key_Return);
     QVERIFY(Panel("editGroup")->isVisible());
-    QCOMPARE(Panel("editGroup")->title(), Say(TextId::EditTitle));
+    QCOMPARE(Panel("editGroup")->title(), InQt(TextId::EditTitle));
     QCOMPARE(Window()->focusWidget(), List("pickerLetter"));
     QTest::keyClick(Window()->focusWidget(), Qt::Key_B);
-    QCOMPARE(List("pickerType")->currentText(), Say(TextId::DimType));
+    QCOMPARE(List("pickerType")->currentText(), InQt(TextId::DimType));
     for (const auto& [list, downs] : {std::pair("pickerOutput", 3), std::pair("pickerAction", 5)}) {
       QTest::keyClick(Window(), Qt::Key_Tab);
       while (Window()->focusWidget() != List(list)) QTest::keyClick(Window(), Qt::Key_Tab);
@@ -77,7 +77,7 @@ class MasterScreensViewTest : public QObject, private MasterStage {
     Pick("pickerLetter", "D");
     auto* all = Find<QCheckBox>("pickerAllOutputs");
     QVERIFY(all->isVisible());
-    QCOMPARE(all->text(), Say(TextId::AllOutputs));
+    QCOMPARE(all->text(), InQt(TextId::AllOutputs));
     QVERIFY(Place(all).left() > Place(List("pickerOutput")).right());
     QVERIFY(Place(all).right() < Place(List("pickerAction")).left());
     QCOMPARE(Place(all).center().y(), Place(List("pickerOutput")).center().y());
@@ -94,7 +94,7 @@ class MasterScreensViewTest : public QObject, private MasterStage {
   void AnActionIsDeletedAfterAQuestion() {
     ShowContext(0);
     DoubleClick(0, 1);
-    QCOMPARE(Panel("deleteGroup")->title(), Say(TextId::DeleteTitle));
+    QCOMPARE(Panel("deleteGroup")->title(), InQt(TextId::DeleteTitle));
     QVERIFY(Find<QRadioButton>("deleteAction")->isChecked());
     QVERIFY(!Panel("editGroup")->isVisible());
     QTest::keyClick(Window()->focusWidget(), Qt::Key_Return);
@@ -123,7 +123,7 @@ class MasterScreensViewTest : public QObject, private MasterStage {
     DoubleClick(19, 0);
     const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     QVERIFY(box != nullptr);
-    QCOMPARE(box->text(), Say(TextId::MemoryFull));
+    QCOMPARE(box->text(), InQt(TextId::MemoryFull));
     QCOMPARE(box->parentWidget(), Window());
     QVERIFY(!Panel("editGroup")->isVisible());
   }
@@ -140,7 +140,7 @@ class MasterScreensViewTest : public QObject, private MasterStage {
     Press("editConfirm");
     QCOMPARE(CellText(UsedPlaces, 1), QStringLiteral("S1202"));
     QCOMPARE(CellText(UsedPlaces, 2), QStringLiteral("23:50"));
-    QCOMPARE(CellText(UsedPlaces, 3), Say(TextId::EveryDay));
+    QCOMPARE(CellText(UsedPlaces, 3), InQt(TextId::EveryDay));
     QCOMPARE(Find<QLabel>("memory")->text(), QString::number(TimeSlots - UsedPlaces - 1));
     QCOMPARE(MasterTimeDirty.Whole(), 1);
   }
@@ -187,18 +187,18 @@ class MasterScreensViewTest : public QObject, private MasterStage {
     QVERIFY(!Panel("levelGroup")->isVisible());
     Pick("pickerLetter", "Z");
     QVERIFY(Panel("levelGroup")->isVisible());
-    QCOMPARE(Panel("levelGroup")->title(), Say(TextId::LevelFrame));
+    QCOMPARE(Panel("levelGroup")->title(), InQt(TextId::LevelFrame));
     QVERIFY(Place(Find<QLabel>("darkEnd")).right() < Place(List("level")).left());
     QVERIFY(Place(Find<QLabel>("lightEnd")).left() > Place(List("level")).right());
     QVERIFY(Place(Find<QLabel>("levelLabel")).bottom() < Place(List("level")).top());
-    QCOMPARE(List("level")->toolTip(), Say(TextId::LevelHint));
+    QCOMPARE(List("level")->toolTip(), InQt(TextId::LevelHint));
     Pick("pickerOutput", "05");
     Pick("pickerAction", "12");
     Pick("level", "07");
     QTest::mouseClick(Find<QRadioButton>("darkToLight"), Qt::LeftButton, {}, {6, 8});
     Press("editConfirm");
     QCOMPARE(CellText(UsedPlaces, 1), QStringLiteral("Z0512"));
-    QCOMPARE(CellText(UsedPlaces, 2), Say(TextId::DarkToLight));
+    QCOMPARE(CellText(UsedPlaces, 2), InQt(TextId::DarkToLight));
     QCOMPARE(CellText(UsedPlaces, 3), QStringLiteral("07"));
     QCOMPARE(Find<QLabel>("memory")->text(), QString::number(LightSlots - UsedPlaces - 1));
   }
@@ -208,7 +208,7 @@ class MasterScreensViewTest : public QObject, private MasterStage {
     QFETCH(int, state);
     ShowState(State(state));
     QVERIFY(Panel("deleteGroup")->isVisible());
-    QCOMPARE(Find<QLabel>("deleteQuestion")->text(), Say(TextId::DeleteProgram));
+    QCOMPARE(Find<QLabel>("deleteQuestion")->text(), InQt(TextId::DeleteProgram));
     QCOMPARE(Window()->focusWidget(), Button("deleteYes"));
     QTest::keyClick(Window()->focusWidget(), Qt::Key_Return);
     QVERIFY(!Panel("deleteGroup")->isVisible());
@@ -244,7 +244,7 @@ class MasterScreensViewTest : public QObject, private MasterStage {
   void TheGridTellsThatADoubleClickEdits() {
     QFETCH(int, state);
     Show(*State(state).screen, State(state).open);
-    QCOMPARE(Grid()->toolTip(), Say(TextId::EditHint));
+    QCOMPARE(Grid()->toolTip(), InQt(TextId::EditHint));
     QVERIFY(Grid()->horizontalHeader()->isVisible());
   }
 

@@ -24,7 +24,7 @@ bool IsEmptyLabel(const QWidget* widget) {
 
 }  // namespace
 
-QString Say(TextId id) {
+QString InQt(TextId id) {
   return ToQt(Text(id));
 }
 

@@ -25,7 +25,7 @@ namespace bkconf {
 /// What a desktop of 1366 x 768 leaves for a window within its frame.
 inline constexpr QSize SmallDesktop{1356, 728};
 
-QString Say(TextId id);
+QString InQt(TextId id);
 
 class ScreenStage {
  protected:

@@ -65,15 +65,15 @@ class SimulationScreenViewTest : public QObject, private ScreenStage {
     auto* slider = Find<QSlider>("sensitivity");
     QCOMPARE(slider->value(), 2);
     QCOMPARE(slider->maximum(), 4);
-    QCOMPARE(Label("sensitivityText")->text(), Say(TextId::SensitivityMedium));
+    QCOMPARE(Label("sensitivityText")->text(), InQt(TextId::SensitivityMedium));
     QVERIFY(Place(Label("sensitivityText")).left() > Place(slider).right());
     slider->setFocus();
     QTest::keyClick(slider, Qt::Key_Right);
-    QCOMPARE(Label("sensitivityText")->text(), Say(TextId::SensitivityLow));
+    QCOMPARE(Label("sensitivityText")->text(), InQt(TextId::SensitivityLow));
     QCOMPARE(SimulationImage[SensitivityCell].Whole(), 3);
     QTest::keyClick(slider, Qt::Key_Home);
-    QCOMPARE(Label("sensitivityText")->text(), Say(TextId::SensitivityHighest));
-    QCOMPARE(slider->accessibleName(), Say(TextId::Sensitivity));
+    QCOMPARE(Label("sensitivityText")->text(), InQt(TextId::SensitivityHighest));
+    QCOMPARE(slider->accessibleName(), InQt(TextId::Sensitivity));
   }
 
   void EveryWordOfTheSensitivityHasItsRoom() {
@@ -91,10 +91,10 @@ class SimulationScreenViewTest : public QObject, private ScreenStage {
   void TheSwitchOfTheStateChangesItsWords() {
     ShowState(StateOf("conditions"));
     auto* state = Find<QCheckBox>("state");
-    QCOMPARE(state->text(), Say(TextId::StateOff));
+    QCOMPARE(state->text(), InQt(TextId::StateOff));
     state->setFocus();
     QTest::keyClick(state, Qt::Key_Space);
-    QCOMPARE(state->text(), Say(TextId::StateOn));
+    QCOMPARE(state->text(), InQt(TextId::StateOn));
     QCOMPARE(SimulationImage[StateCell].Whole(), 1);
   }
 
@@ -126,7 +126,7 @@ class SimulationScreenViewTest : public QObject, private ScreenStage {
     }
     QCOMPARE(Cell(0, 0), QStringLiteral("A12"));
     QCOMPARE(Cell(0, 1), QStringLiteral("S05"));
-    QCOMPARE(grid->toolTip(), Say(TextId::EditHint));
+    QCOMPARE(grid->toolTip(), InQt(TextId::EditHint));
   }
 
   void ParticipantsAreAddedByKeyboardAlone() {
@@ -176,11 +176,11 @@ class SimulationScreenViewTest : public QObject, private ScreenStage {
   void AContextAndACodeHaveANumberInTheirPlace() {
     ShowState(StateOf("context"));
     QVERIFY(!Find<QCheckBox>("switch1")->isVisible() && List("number")->isVisible());
-    QCOMPARE(Label("numberLabel")->text(), Say(TextId::ContextCaption));
+    QCOMPARE(Label("numberLabel")->text(), InQt(TextId::ContextCaption));
     QCOMPARE(List("number")->count(), 50);
     const QSize size = Window()->size();
     ShowState(StateOf("code"));
-    QCOMPARE(Label("numberLabel")->text(), Say(TextId::CodeCaption));
+    QCOMPARE(Label("numberLabel")->text(), InQt(TextId::CodeCaption));
     QCOMPARE(List("number")->count(), 99);
     QCOMPARE(Window()->size(), size);
     PickRow("number", 2);

@@ -89,7 +89,7 @@ class TemperatureScreenViewTest : public QObject, private ScreenStage {
   // --- Identities
   void WithoutARoomTheBytesAreEmptyAndOutOfUse() {
     ShowState(StateOf("ids, no room"));
-    QCOMPARE(List("idRoom")->placeholderText(), Say(TextId::RoomPrompt));
+    QCOMPARE(List("idRoom")->placeholderText(), InQt(TextId::RoomPrompt));
     QCOMPARE(FieldInFocus(), QStringLiteral("idRoom"));
     for (int byte = 1; byte <= IdBytes; ++byte) {
       QVERIFY(!ByteOf("sensor", byte)->isEnabled() && !ByteOf("led", byte)->isEnabled());
@@ -120,8 +120,8 @@ class TemperatureScreenViewTest : public QObject, private ScreenStage {
       QCOMPARE(sensor.size(), Place(ByteOf("sensor", 1)).size());
       QVERIFY(sensor.bottom() < led.top());
     }
-    QCOMPARE(Label("sensorLabel")->text(), Say(TextId::SensorId));
-    QCOMPARE(Label("ledLabel")->text(), Say(TextId::LedId));
+    QCOMPARE(Label("sensorLabel")->text(), InQt(TextId::SensorId));
+    QCOMPARE(Label("ledLabel")->text(), InQt(TextId::LedId));
   }
 
   void AByteThatWasChangedIsSeenUntilAnotherRoomIsPicked() {
@@ -141,7 +141,7 @@ class TemperatureScreenViewTest : public QObject, private ScreenStage {
     QVERIFY(Find<QRadioButton>("ownOutput")->isChecked());
     QVERIFY(Label("ownOutputText")->isVisible() && !List("valveLetter")->isVisible());
     QCOMPARE(Label("ownOutputText")->text(),
-             Say(TextId::OwnOutput) + u'1' + Say(TextId::OwnOutputEnd));
+             InQt(TextId::OwnOutput) + u'1' + InQt(TextId::OwnOutputEnd));
     QCOMPARE(Place(Label("ownOutputText")).center().y(),
              Place(Find<QRadioButton>("ownOutput")).center().y());
     PickRow("valve", 2);
@@ -175,9 +175,9 @@ class TemperatureScreenViewTest : public QObject, private ScreenStage {
   void ThePumpStandsBehindTheRooms() {
     ShowState(StateOf("ids, pump"));
     QCOMPARE(List("valve")->count(), Rooms + 1);
-    QCOMPARE(List("valve")->currentText(), Say(TextId::Pump));
+    QCOMPARE(List("valve")->currentText(), InQt(TextId::Pump));
     QCOMPARE(Label("ownOutputText")->text(),
-             Say(TextId::OwnOutput) + u'P' + Say(TextId::OwnOutputEnd));
+             InQt(TextId::OwnOutput) + u'P' + InQt(TextId::OwnOutputEnd));
   }
 
   // --- Periods
@@ -306,15 +306,15 @@ class TemperatureScreenViewTest : public QObject, private ScreenStage {
   // --- Temperatures
   void TheTemperaturesComeOneByOneAndTheWayOutStaysOpen() {
     ShowState(StateOf("temperatures"));
-    QCOMPARE(Label("status")->text(), Say(TextId::OneMoment));
+    QCOMPARE(Label("status")->text(), InQt(TextId::OneMoment));
     QVERIFY(Button("leave")->isEnabled());
     Tell("M2064021");
-    QCOMPARE(Label("liveRoom1")->text(), Say(TextId::Room) + QStringLiteral("1 = 21°C"));
+    QCOMPARE(Label("liveRoom1")->text(), InQt(TextId::Room) + QStringLiteral("1 = 21°C"));
     QVERIFY(Label("liveRoom2")->text().isEmpty());
     Tell("M2067021");
-    QCOMPARE(Label("liveRoom4")->text(), Say(TextId::Dashes));
+    QCOMPARE(Label("liveRoom4")->text(), InQt(TextId::Dashes));
     EndRead();
-    QCOMPARE(Label("status")->text(), Say(TextId::LiveTemperaturesEnd));
+    QCOMPARE(Label("status")->text(), InQt(TextId::LiveTemperaturesEnd));
     QVERIFY(!Find<QProgressBar>("bar")->isVisible());
   }
 
@@ -332,7 +332,7 @@ class TemperatureScreenViewTest : public QObject, private ScreenStage {
   void NothingCanBeUsedUntilTheLastCellHasCome() {
     for (const char* name : {"ids, read", "programme, read"}) {
       ShowState(StateOf(name));
-      QCOMPARE(Label("status")->text(), Say(TextId::ReadingData));
+      QCOMPARE(Label("status")->text(), InQt(TextId::ReadingData));
       QVERIFY(Find<QProgressBar>("bar")->isVisible());
       for (QWidget* widget : VisibleFields()) {
         QVERIFY2(!widget->isEnabled() || widget->focusPolicy() == Qt::NoFocus,
@@ -342,7 +342,7 @@ class TemperatureScreenViewTest : public QObject, private ScreenStage {
       QVERIFY(Window()->isVisible());
       EndRead();
       QVERIFY(Button("leave")->isEnabled());
-      QCOMPARE(Label("status")->text(), Say(TextId::EditMode));
+      QCOMPARE(Label("status")->text(), InQt(TextId::EditMode));
       QVERIFY(FieldInFocus().endsWith(QStringLiteral("Room")));
       QTest::keyClick(Window(), Qt::Key_Escape);
       QVERIFY(!Window()->isVisible());
@@ -361,7 +361,7 @@ class TemperatureScreenViewTest : public QObject, private ScreenStage {
       for (int other = 0; other < 3; ++other) {
         QCOMPARE(Panel(looks[other].first)->isVisible(), other == look);
       }
-      QCOMPARE(Panel(looks[look].first)->title(), Say(looks[look].second));
+      QCOMPARE(Panel(looks[look].first)->title(), InQt(looks[look].second));
       EndRead();
       Close({&TemperatureScreen});
     }
