@@ -15,7 +15,7 @@ using namespace bkconf;
 
 namespace {
 
-constexpr int OwnLetter = 'E';
+constexpr int LetterHere = 'E';
 constexpr int Rooms = 3;
 constexpr int DayCells = 12;
 constexpr int FirstValve = 64;
@@ -47,16 +47,16 @@ QColor ToQColor(const Colour& colour) {
 
 /// Three rooms: all days alike, with a cold, a mild and a hot period, and one valve elsewhere.
 void FillModule() {
-  const int header[] = {OwnLetter, Rooms, 10, 21};
+  const int header[] = {LetterHere, Rooms, 10, 21};
   for (int cell = 0; cell < 4; ++cell) TempHeader[cell] = header[cell];
   TempRoomCount = Rooms;
   for (int cell = 0; cell < TempRoomIds.Size(); ++cell) TempRoomIds[cell] = cell * 7 % 256;
   for (int cell = 0; cell < TempTail.Size(); ++cell) TempTail[cell] = cell * 11 % 256;
   for (int room = 0; room < MostRooms; ++room) {
-    TempTail[FirstValve + 2 * room] = room == 2 ? int{'B'} : OwnLetter;
+    TempTail[FirstValve + 2 * room] = room == 2 ? int{'B'} : LetterHere;
     TempTail[FirstValve + 2 * room + 1] = room;
   }
-  TempTail[80] = OwnLetter;
+  TempTail[80] = LetterHere;
   TempTail[81] = 8;
   const int day[] = {6, 30, 9, 0, 12, 0, 13, 30, 16, 30, 22, 0};
   for (int cell = 0; cell < TempPeriods.Size(); ++cell) TempPeriods[cell] = day[cell % DayCells];
@@ -168,7 +168,7 @@ class TemperatureScreenViewTest : public QObject, private ScreenStage {
     ExpectTextColour(List("valveLetter"), QPalette::ButtonText, ChangedColour);
     ExpectTextColour(List("valveOutput"), QPalette::ButtonText, ChangedColour);
     Find<QRadioButton>("ownOutput")->click();
-    QCOMPARE(TempTail[FirstValve].Whole(), OwnLetter);
+    QCOMPARE(TempTail[FirstValve].Whole(), LetterHere);
     QVERIFY(!List("valveLetter")->isVisible());
   }
 
