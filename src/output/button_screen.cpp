@@ -55,9 +55,9 @@ constexpr int TimeCell = 122;
 constexpr int HalfSeconds = 8;
 
 /// Whether the user can work in that look of the screen, or part of it. What is hidden writes
-/// nothing, whoever presses it.
+/// nothing, whoever presses it; that the screen is shown, each field sees to by itself.
 bool InUse(const GroupField& group) {
-  return ButtonScreen.shown && group.visible;
+  return group.visible;
 }
 
 /// The first of the three cells of a button's function. `button` counts from 0; column 1 holds the

@@ -119,7 +119,7 @@ void PickFunction() {
 /// Incomplete fields store nothing, and nothing is said. What another function needs stays in its
 /// cell: it is just not shown.
 void ConfirmFunction() {
-  if (!OutputScreen.shown || !OutputScreen.editGroup.visible) return;
+  if (!OutputScreen.editGroup.visible) return;
   const int output = OutputScreen.output.Index();
   const int place = OutputScreen.function.Index();
   if (output < 0 || place < 0) return;
@@ -144,7 +144,7 @@ void DrawStartValues() {
 }
 
 void ConfirmStart() {
-  if (!OutputScreen.shown || !OutputScreen.startEditGroup.visible) return;
+  if (!OutputScreen.startEditGroup.visible) return;
   const int channel = OutputScreen.channel.Index();
   if (channel < 0 || OutputScreen.start.Index() < 0) return;
   ButtonImage[StartCell + channel] = OutputScreen.start.Index() + 1;

@@ -251,7 +251,6 @@ void LoadAudioScreen() {
   }
   AudioScreen.loudness.onChange = ChangeLoudness;
   AudioScreen.leave.onClick = [] { AudioScreen.Close(); };
-  ClearZone();
 }
 
 void OpenAudioScreen() {

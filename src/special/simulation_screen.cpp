@@ -290,7 +290,6 @@ void LoadSimulationScreen() {
   ShowCaptions();
   FillLists();
   SimulationScreen.conditions.Load(TextId::LevelHeading);
-  SimulationScreen.conditions.Close();
   SimulationScreen.state.onChange = ChangeState;
   SimulationScreen.sensitivity.onMove = MoveSensitivity;
   SimulationScreen.participants.onDoubleClick = DoubleClick;
