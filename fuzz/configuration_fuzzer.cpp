@@ -18,7 +18,10 @@ namespace bkconf {
 namespace {
 
 std::vector<Cell> CellsOf(std::span<const FileBlock> blocks) {
+  std::size_t size = 0;
+  for (const FileBlock& block : blocks) size += static_cast<std::size_t>(block.table->Size());
   std::vector<Cell> cells;
+  cells.reserve(size);
   for (const FileBlock& block : blocks) {
     for (int index = 0; index < block.table->Size(); ++index)
       cells.push_back((*block.table)[index]);

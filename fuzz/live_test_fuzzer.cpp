@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "diagnostics/detector_panel.h"
@@ -100,12 +101,14 @@ void StartSubject(const Subject& subject) {
   Raise(LinkEvent::TestStarted);
 }
 
-void TakeLine(const Subject& subject, std::string_view line) {
-  const std::string before = Seen();
+/// `seen` is what there was before the line, and what there is after it.
+void TakeLine(const Subject& subject, std::string_view line, std::string& seen) {
+  const std::string before = std::move(seen);
   RxLine = line;
   ReceiveDispatcher();
+  seen = Seen();
   if (!Means(subject, line)) {
-    Require(Seen() == before, "a line that means nothing changes nothing", line);
+    Require(seen == before, "a line that means nothing changes nothing", line);
   }
   const ProgressField& bar = DiagnosticsScreen.bar;
   Require(bar.Value() <= bar.Maximum(), "the bar stays in its range", line);
@@ -116,9 +119,10 @@ void TryLines(std::string_view input) {
   const Subject& subject = Subjects[static_cast<unsigned char>(input[0]) % Subjects.size()];
   input.remove_prefix(1);
   StartSubject(subject);
+  std::string seen = Seen();
   while (!input.empty() && RunningTest != nullptr) {
     const std::size_t end = input.find('\n');
-    TakeLine(subject, input.substr(0, end));
+    TakeLine(subject, input.substr(0, end), seen);
     input.remove_prefix(end == std::string_view::npos ? input.size() : end + 1);
   }
   LeaveTransfer();

@@ -69,7 +69,7 @@ void Empty(int kind) {
   for (Table* table : AllTables) {
     // Nothing of a line gets into the working form of the contexts, and it is large.
     if (!IsTouched(kind, table) || table == &ContextWork) continue;
-    for (int cell = 0; cell < table->Size(); ++cell) (*table)[cell] = Cell();
+    table->Fill(0, table->Size() - 1, Cell());
   }
 }
 

@@ -1,5 +1,6 @@
 #include "image/table.h"
 
+#include <algorithm>
 #include <string>
 
 #include "platform/runtime_error.h"
@@ -17,7 +18,7 @@ std::size_t Table::Checked(int index) const {
 void Table::Fill(int first, int last, const Cell& value) {
   Checked(first);
   Checked(last);
-  for (int index = first; index <= last; ++index) (*this)[index] = value;
+  std::fill_n(cells_.begin() + first, last - first + 1, value);
 }
 
 }  // namespace bkconf
