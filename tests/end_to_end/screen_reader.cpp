@@ -23,6 +23,7 @@ constexpr int callLimit = 5000;  // ms; a tool that spins does not answer
 // Places in the state set of the accessibility protocol.
 constexpr unsigned checkedState = 4;
 constexpr unsigned enabledState = 8;
+constexpr unsigned expandedState = 10;
 constexpr unsigned focusedState = 12;
 constexpr unsigned showingState = 25;
 
@@ -96,6 +97,7 @@ void PutStates(quint32 states, Widget& widget) {
   widget.enabled = Holds(states, enabledState);
   widget.focused = Holds(states, focusedState);
   widget.checked = Holds(states, checkedState);
+  widget.open = Holds(states, expandedState);
 }
 
 // Nothing lies within these.

@@ -30,6 +30,7 @@ struct Widget {
   bool enabled = false;
   bool focused = false;
   bool checked = false;
+  bool open = false;  // of a combo box: its items are shown
   ReaderPlace place = {};
 };
 

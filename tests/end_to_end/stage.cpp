@@ -214,19 +214,30 @@ void Stage::LeaveByButton(std::string_view title, std::string_view mainTitle) {
   AwaitWindow(mainTitle);
 }
 
+bool Stage::AwaitOpen(const Widget& list, bool open) {
+  return WaitFor(
+      [&] {
+        const std::optional<Widget> now = desktop().LookAgain(list);
+        return (now && now->open) == open;
+      },
+      std::chrono::seconds(3));
+}
+
 void Stage::PickInList(const ListPlace& place, const std::vector<std::string>& keys,
                        std::string_view item) {
   const auto shown = [&] {
     const auto list = desktop().FindList(place);
     return list && list->name == item;
   };
-  // Keys that come before the list is open are lost.
+  // A click while another list closes is lost, and keys that come before the list is open go to the
+  // list that had the keyboard last.
   const bool taken = WaitFor([&] {
     const auto list = desktop().FindList(place);
     if (!list || !list->enabled) return false;
     desktop().Click(*list);
+    if (!AwaitOpen(*list, true)) return false;
     desktop().Press(keys);
-    if (WaitFor(shown, std::chrono::seconds(3))) return true;
+    if (AwaitOpen(*list, false)) return WaitFor(shown, std::chrono::seconds(3));
     desktop().Press({"Escape"});
     return false;
   });

@@ -141,6 +141,8 @@ class Stage : public ::testing::Test {
 
  private:
   void KeepTraces();
+  // Gives whether its items come, or go, soon.
+  bool AwaitOpen(const Widget& list, bool open);
 
   std::filesystem::path scratch_;
   const Captions* captions_ = &dutch;

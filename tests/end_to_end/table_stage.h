@@ -71,7 +71,8 @@ class TableStage : public virtual FileStage {
 
  private:
   void ExpectWritten(const Conversation& conversation, const Writing& writing);
-  bool IsReadOver(const std::string& command) const;
+  // What the module has said since, up to the end of the read.
+  std::vector<std::string> AnswersTo(const std::string& command) const;
 
   std::vector<int> cells_;
 };
