@@ -101,10 +101,12 @@ class Session {
           module_.Receive(static_cast<unsigned char>(character), clock.Now());
         }
       }
-      Send(module_.Run(clock.Now()));
+      const std::string leaving = module_.Run(clock.Now());
+      // Who sees a line at the other end finds it in the log.
+      Record();
+      Send(leaving);
       ObeyConsole();
       terminal_.AllowOthers();
-      Record();
     }
     terminal_.Close();
     while (!ended) {

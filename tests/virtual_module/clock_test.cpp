@@ -83,7 +83,7 @@ TEST(ModuleClock, GoesOverMidnightIntoTheNextDayMonthAndYear) {
 
 TEST(ModuleClock, BothLinesTellTheMomentOfTheQuestion) {
   Conversation line(Master({.hour = 23, .minute = 59}));
-  line.RunFor(minute - 150 * millisecond);
+  line.RunFor(minute - 400 * millisecond);
   line.Wake();
   line.RunFor(minute - 20 * millisecond - line.now);
   line.Send("T80300\r", 1042);  // ends 13 ms before midnight

@@ -223,7 +223,7 @@ TEST(Fault, PollDuringIdentityPollsOnceMoreAndThenBehaves) {
   line.Send(std::string(22, 'D'));
   const std::int64_t burstEnd = line.now;
   EXPECT_EQ(line.RunUntil("M"), "M");
-  EXPECT_EQ(line.now, burstEnd + 30 * millisecond + 1042);
+  EXPECT_EQ(line.now, burstEnd + 150 * millisecond + 1042);
   EXPECT_EQ(line.Wake(), "DISPL2\r");
 }
 

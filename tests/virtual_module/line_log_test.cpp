@@ -39,13 +39,13 @@ TEST(LineLog, HasOneLineForEachUnitInTheOrderOfTheLine) {
   ASSERT_EQ(lines.size(), 9U);
   EXPECT_EQ(lines[0], "1042 151042 module M x 4");
   EXPECT_EQ(lines[1], "152084 173966 tool DDDDDDDDDDDDDDDDDDDDDD");
-  EXPECT_EQ(lines[2], "205008 211258 module DISPL3\\r");
-  EXPECT_EQ(lines[3], "212300 218552 tool T80000\\r");
-  EXPECT_EQ(lines[4], "219594 225844 module M80000\\r");
-  EXPECT_EQ(lines[5], "226886 235219 module M1000065\\r");
-  EXPECT_EQ(lines[6], "236261 244594 module C1001021\\r");
-  EXPECT_EQ(lines[7], "245636 249802 module STOP\\r");
-  EXPECT_EQ(lines[8], "300844 350844 module M x 2");
+  EXPECT_EQ(lines[2], "325008 331258 module DISPL3\\r");
+  EXPECT_EQ(lines[3], "332300 338552 tool T80000\\r");
+  EXPECT_EQ(lines[4], "339594 345844 module M80000\\r");
+  EXPECT_EQ(lines[5], "346886 355219 module M1000065\\r");
+  EXPECT_EQ(lines[6], "356261 364594 module C1001021\\r");
+  EXPECT_EQ(lines[7], "365636 369802 module STOP\\r");
+  EXPECT_EQ(lines[8], "420844 470844 module M x 2");
 }
 
 TEST(LineLog, ThatCannotBeWrittenIsAnError) {

@@ -25,14 +25,14 @@ TEST(Module, PollsEveryFiftyMillisecondsFromTheMomentItIsSwitchedOn) {
   EXPECT_EQ(line.RunFor(second).size(), 20U);
 }
 
-TEST(Module, AnswersABurstAfterThirtyQuietMilliseconds) {
+TEST(Module, AnswersABurstOnceTheLineHasBeenQuietForLong) {
   Conversation line(9);
   line.RunUntil("M");
   line.Send(std::string(22, 'D'));
   const std::int64_t burstEnd = line.now;
   EXPECT_EQ(line.RunUntil("\r"), "DISPL9\r");
   // Seven characters of 1041 2/3 us behind the pause.
-  EXPECT_EQ(line.now, burstEnd + 30 * millisecond + 7292);
+  EXPECT_EQ(line.now, burstEnd + 150 * millisecond + 7292);
   ASSERT_EQ(line.module.received().size(), 1U);
   const FrameRecord& burst = line.module.received().front();
   EXPECT_EQ(burst.kind, UnitKind::Burst);
@@ -88,7 +88,7 @@ TEST(Module, ABurstDuringTheIdentityIsAnsweredAnew) {
   Conversation line(11);
   line.RunUntil("M");
   line.Send("DD");
-  EXPECT_EQ(line.RunFor(33 * millisecond), "DI");
+  EXPECT_EQ(line.RunFor(153 * millisecond), "DI");
   line.Send("D");
   EXPECT_EQ(line.RunUntil("\r"), "SDISPL11\r");
 }
@@ -96,7 +96,7 @@ TEST(Module, ABurstDuringTheIdentityIsAnsweredAnew) {
 TEST(Module, PollsAgainWhenNoCommandFollowsTheIdentity) {
   Conversation line(0);
   line.Wake();
-  EXPECT_EQ(line.RunFor(1900 * millisecond), "");
+  EXPECT_EQ(line.RunFor(9900 * millisecond), "");
   EXPECT_EQ(line.RunFor(200 * millisecond).substr(0, 1), "M");
 }
 
