@@ -176,9 +176,7 @@ TEST_P(FullContexts, TakeNoMoreActionsUntilOneIsErased) {
   PickContext(1);
   PickContext(3);
   desktop().DoubleClick(AwaitPlace(16, 3, ""));
-  AwaitText(texts().memoryFull);
-  ClickOn("push button", "OK");
-  AwaitGone("label", texts().memoryFull);
+  DismissMessage(texts().memoryFull);
   AwaitScreen();
   EXPECT_FALSE(desktop().Find("panel", texts().edit));
 

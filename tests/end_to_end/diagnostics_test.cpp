@@ -45,8 +45,8 @@ class LiveTests : public DiagnosticsStage, public ::testing::WithParamInterface<
     return static_cast<std::size_t>(std::count(heard.begin(), heard.end(), text));
   }
 
-  // The test of the line takes a second: where it ends before the button is pressed, it is started
-  // again. A press of a disabled button does nothing.
+  // The test of the line takes a second: where it ends before the button is pressed, or while that
+  // is told, it is started again. A press of a disabled button does nothing.
   void StopLineTestWhileItRuns() {
     const Widget stop = AwaitIn(Panel(texts().line), "push button", "Stop", false);
     const bool stopped = WaitFor([&] {
@@ -55,12 +55,17 @@ class LiveTests : public DiagnosticsStage, public ::testing::WithParamInterface<
                desktop().Click(stop);
                return CountOnLine(true, stopFrame) > 0 || CountOnLine(false, "STOP\\r") > 0;
              }) &&
-             CountOnLine(true, stopFrame) > 0;
+             StopWasHeardInTime();
     });
     EXPECT_TRUE(stopped);
-    ExpectHeard(true, std::vector<std::string>(stopFrames, stopFrame));
-    EXPECT_EQ(Units(true).front().meaning, "the test ends");
+  }
+  bool StopWasHeardInTime() {
+    if (CountOnLine(true, stopFrame) > 0) {
+      ExpectHeard(true, std::vector<std::string>(stopFrames, stopFrame));
+    }
     ExpectReady(texts().line);
+    const std::vector<LogUnit> stops = Units(true);
+    return !stops.empty() && stops.front().meaning == "the test ends";
   }
 
   // Presses a button of the module and waits for it. Gives the time of its row in the history.

@@ -100,16 +100,22 @@ class DisplayStage : public virtual TableStage {
     ClickOn("list item", texts().screen + std::to_string(number));
     AwaitContent(texts().name, name);
   }
-  // The button of that line, from 1 on.
+  // The button of that line, from 1 on, once all of them stand still.
   Widget OutputsButton(int line) {
     std::vector<Widget> buttons;
+    const auto lowest = [&] {
+      int y = -1;
+      for (const Widget& each : buttons) y = std::max(y, each.y);
+      return y;
+    };
     const bool enabled = WaitFor([&] {
+      const int before = lowest();
       buttons.clear();
       for (const Widget& each : desktop().Widgets()) {
         const bool is = each.role == "push button" && each.name == texts().outputs;
         if (is && each.enabled) buttons.push_back(each);
       }
-      return buttons.size() == 10;
+      return buttons.size() == 10 && lowest() == before;
     });
     EXPECT_TRUE(enabled) << buttons.size() << " buttons of lines can be used";
     std::sort(buttons.begin(), buttons.end(),

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "end_to_end/deadline.h"
@@ -54,19 +55,19 @@ class ToolWithFault : public FileStage {
   // A window that is moved draws itself anew, fields and all, at its new place.
   void ExpectWindowRepaints() {
     const Widget before = Await("label", "Adres module:");
-    const std::string pixels = desktop().PixelsOf(before);
-    desktop().MoveActiveWindow(120, 90);
-    Widget after;
-    EXPECT_TRUE(WaitFor([&] {
-      after = Await("label", "Adres module:");
+    std::string pixels;
+    WaitFor([&] {
+      const std::string last = std::exchange(pixels, desktop().PixelsOf(before));
+      return pixels == last;
+    });
+    const auto follows = [&] {
+      const Widget after = Await("label", "Adres module:");
       return after.x != before.x && after.y != before.y && desktop().PixelsOf(after) == pixels;
+    };
+    EXPECT_TRUE(WaitFor([&] {
+      desktop().MoveActiveWindow(120, 90);
+      return WaitFor(follows, nextTry);
     })) << "the window does not follow";
-  }
-
-  void ExpectMessage(const std::string& text) {
-    AwaitText(text);
-    ClickOn("push button", "OK");
-    EXPECT_TRUE(WaitFor([&] { return !desktop().Find("label", text); })) << "the message stays";
   }
 };
 
@@ -112,7 +113,7 @@ TEST_F(ToolWithFault, ModuleThatStopsWithinALineHoldsTheWindowUntilItIsUnplugged
   ASSERT_TRUE(torn) << "no line was left in its middle";
   EXPECT_TRUE(tool().Running());
   module().End();
-  ExpectMessage(portFailed);
+  DismissMessage(portFailed);
   ExpectIdle();
   CloseTool();
 }
@@ -160,7 +161,7 @@ TEST_F(ToolWithFault, IdentityOfAnotherKindThanTheFilesIsToldAndTheFileIsKept) {
   std::filesystem::copy_file(DemoFile(demoFile), directory() / demoFile);
   OpenFile(demoFile);
   ClickOn("push button", "Versturen");
-  ExpectMessage(wrongModule);
+  DismissMessage(wrongModule);
   ExpectIdle();
   ExpectImage(DemoLines());
   CloseTool();
@@ -168,7 +169,7 @@ TEST_F(ToolWithFault, IdentityOfAnotherKindThanTheFilesIsToldAndTheFileIsKept) {
 
 TEST_F(ToolWithFault, CellBeyondTheTableIsToldAndTheTransferIsLeft) {
   Connect(0, "index-beyond-table");
-  ExpectMessage(noSuchCell);
+  DismissMessage(noSuchCell);
   AwaitText("Edit mode");
   ExpectIdle();
   CloseTool();
@@ -176,7 +177,7 @@ TEST_F(ToolWithFault, CellBeyondTheTableIsToldAndTheTransferIsLeft) {
 
 TEST_F(ToolWithFault, MoreLinesThanThereAreCellsAreToldAndTheTransferIsLeft) {
   Connect(0, "too-many-lines");
-  ExpectMessage(tooMuch);
+  DismissMessage(tooMuch);
   AwaitText("Edit mode");
   ExpectIdle();
   CloseTool();
@@ -192,7 +193,7 @@ TEST_F(ToolWithFault, PollInPlaceOfTheIdentityIsNoReasonNotToReadTheModule) {
 TEST_F(ToolWithFault, UnknownIdentityIsToldAndTheToolIsReadyForTheNextTry) {
   Connect(0, "unknown-identity");
   AwaitOnLine(false, "DISPLX\\r");
-  ExpectMessage(wrongModule);
+  DismissMessage(wrongModule);
   AwaitText("Edit mode");
   ExpectIdle();
   CloseTool();
@@ -200,7 +201,7 @@ TEST_F(ToolWithFault, UnknownIdentityIsToldAndTheToolIsReadyForTheNextTry) {
 
 TEST_F(ToolWithFault, PortThatVanishesInAReadIsToldAndTheTransferIsLeft) {
   Connect(5, "vanish-in-read");
-  ExpectMessage(portFailed);
+  DismissMessage(portFailed);
   ExpectIdle();
   CloseTool();
 }
@@ -211,7 +212,7 @@ TEST_F(ToolWithFault, PortThatVanishesInAWriteIsToldAndTheTransferIsLeft) {
   AwaitOnLine(false, "STOP\\r");
   ClickOn("push button", "Versturen");
   AwaitOnLine(true, "T70000\\r");
-  ExpectMessage(portFailed);
+  DismissMessage(portFailed);
   ExpectIdle();
   CloseTool();
 }

@@ -173,8 +173,7 @@ TEST_P(FilesOfModules, MasterThatIsNotReadWholeIsNotSaved) {
   ClickOnEntry(captions().fileMenu, captions().saveAsEntry);
   AwaitText(captions().incomplete);
   EXPECT_FALSE(desktop().Find("frame", captions().saveTitle));
-  ClickOn("push button", "OK");
-  AwaitGone("label", captions().incomplete);
+  DismissMessage(captions().incomplete);
   EXPECT_FALSE(desktop().Find("frame", captions().saveTitle));
   AwaitWindow(programName);
   AwaitText("Edit mode");
@@ -215,8 +214,7 @@ TEST_P(FilesOfModules, FileThatIsTooShortIsToldWithItsPathAndChangesNothing) {
   ChooseFile(tooShort.filename().string(), GetParam().byDoubleClick);
   AwaitText(captions().fileTooShort);
   AwaitText(captions().place + tooShort.string() + ", " + captions().line + "21");
-  ClickOn("push button", "OK");
-  AwaitGone("label", captions().fileTooShort);
+  DismissMessage(captions().fileTooShort);
   AwaitWindow(captions().openTitle);
   LeaveScreen(captions().openTitle);
   AwaitWindow(TitleOf(directory() / GetParam().demoFile));

@@ -50,9 +50,7 @@ class Infrared : public SpecialStage {
     desktop().Click(AwaitField("push button", caption, row));
   }
   void ExpectRefused(const char* message, const ListPlace& type) {
-    AwaitText(message);
-    ClickOn("push button", "OK");
-    AwaitGone("label", message);
+    DismissMessage(message);
     AwaitListText(type, "");
     EXPECT_FALSE(desktop().FindList(type)->enabled);
   }

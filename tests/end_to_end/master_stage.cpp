@@ -141,18 +141,33 @@ void MasterStage::AddLightProgram(MasterImage& image) {
   image.Put(programs);
 }
 
+// At the top of the display. The window manager does what it is asked for a while later.
+void MasterStage::PlaceWindow(std::string_view title, int x, int height) {
+  constexpr int top = 30;
+  constexpr int width = 1000;
+  const auto stands = [&] {
+    const auto window = desktop().Find("frame", title);
+    return window && window->height == height;
+  };
+  EXPECT_TRUE(WaitFor([&] {
+    desktop().MoveActiveWindow(x, top);
+    desktop().ResizeActiveWindow(width, height);
+    return WaitFor(stands, nextTry);
+  })) << "the window \""
+      << title << "\" does not get its size";
+  AwaitWindow(title);
+}
+
 void MasterStage::EnlargeScreen() {
-  desktop().MoveActiveWindow(60, 30);
-  desktop().ResizeActiveWindow(1000, 940);
-  AwaitScreen();
+  constexpr int height = 940;
+  PlaceWindow(texts().title, 60, height);
 }
 
 void MasterStage::OpenPage() {
   ClickOn("push button", texts().configuration);
   Await("panel", texts().page);
-  desktop().MoveActiveWindow(100, 30);
-  desktop().ResizeActiveWindow(1000, 950);
-  AwaitWindow(programName);
+  constexpr int height = 950;
+  PlaceWindow(programName, 100, height);
 }
 
 void MasterStage::ScanModules() {

@@ -70,6 +70,7 @@ class MasterStage : public virtual FileStage {
                         const std::vector<MasterTable>& tables, const MasterImage& wanted);
 
  private:
+  void PlaceWindow(std::string_view title, int x, int height);
   void ExpectFrames(const std::string& command, const std::vector<std::string>& wanted);
 };
 

@@ -18,7 +18,7 @@ namespace {
 
 const QString accessibleInterface = QStringLiteral("org.a11y.atspi.Accessible");
 const QString rootPath = QStringLiteral("/org/a11y/atspi/accessible/root");
-constexpr int callLimit = 5000;  // ms; a tool that spins does not answer
+constexpr int callLimit = 25'000;  // ms; a tool that waits for its module answers late
 
 // Places in the state set of the accessibility protocol.
 constexpr unsigned checkedState = 4;

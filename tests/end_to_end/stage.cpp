@@ -176,12 +176,24 @@ void Stage::AwaitWindow(std::string_view title) {
       << desktop().ActiveWindow() << "\"";
 }
 
+void Stage::DismissMessage(std::string_view text) {
+  AwaitText(text);
+  // The window manager may still be about to give the box its place.
+  const auto isGone = [&] { return !desktop().Find("label", text); };
+  const bool dismissed = WaitFor([&] {
+    if (const auto button = desktop().Find("push button", "OK")) desktop().Click(*button);
+    return WaitFor(isGone, nextTry);
+  });
+  EXPECT_TRUE(dismissed) << "the message \"" << text << "\" stays";
+}
+
 void Stage::OpenMenu(std::string_view menu) {
-  // The first click is lost where a list that was just picked from is still about to close.
+  // The first click is lost where a list that was just picked from is still about to close. A
+  // second one closes the menu again.
+  const auto stands = [&] { return desktop().Find("popup menu", menu).has_value(); };
   const bool open = WaitFor([&] {
-    ClickOn("menu item", menu);
-    return WaitFor([&] { return desktop().Find("popup menu", menu).has_value(); },
-                   std::chrono::seconds(3));
+    if (!stands()) ClickOn("menu item", menu);
+    return WaitFor(stands, nextTry);
   });
   EXPECT_TRUE(open) << "the menu \"" << menu << "\" does not open";
 }
@@ -203,7 +215,7 @@ bool Stage::IsEntryEnabled(std::string_view menu, std::string_view entry) {
 void Stage::LeaveScreen(std::string_view title) {
   const bool left = WaitFor([&] {
     desktop().Press({"Escape"});
-    return WaitFor([&] { return !desktop().Find("frame", title); }, std::chrono::seconds(3));
+    return WaitFor([&] { return !desktop().Find("frame", title); }, nextTry);
   });
   EXPECT_TRUE(left) << "the screen \"" << title << "\" stays";
 }
@@ -214,13 +226,13 @@ void Stage::LeaveByButton(std::string_view title, std::string_view mainTitle) {
   AwaitWindow(mainTitle);
 }
 
-bool Stage::AwaitOpen(const Widget& list, bool open) {
+bool Stage::AwaitOpen(const Widget& list, bool open, std::chrono::milliseconds limit) {
   return WaitFor(
       [&] {
         const std::optional<Widget> now = desktop().LookAgain(list);
-        return (now && now->open) == open;
+        return now && now->open == open;
       },
-      std::chrono::seconds(3));
+      limit);
 }
 
 void Stage::PickInList(const ListPlace& place, const std::vector<std::string>& keys,
@@ -229,17 +241,16 @@ void Stage::PickInList(const ListPlace& place, const std::vector<std::string>& k
     const auto list = desktop().FindList(place);
     return list && list->name == item;
   };
-  // A click while another list closes is lost, and keys that come before the list is open go to the
-  // list that had the keyboard last.
+  // A click while another list closes is lost, a second one closes this list again, and keys that
+  // come before it is open go to the list that had the keyboard last.
+  constexpr std::chrono::milliseconds eachKey(100);
   const bool taken = WaitFor([&] {
     const auto list = desktop().FindList(place);
     if (!list || !list->enabled) return false;
-    desktop().Click(*list);
-    if (!AwaitOpen(*list, true)) return false;
+    if (!list->open) desktop().Click(*list);
+    if (!AwaitOpen(*list, true, nextTry)) return false;
     desktop().Press(keys);
-    if (AwaitOpen(*list, false)) return WaitFor(shown, std::chrono::seconds(3));
-    desktop().Press({"Escape"});
-    return false;
+    return AwaitOpen(*list, false, nextTry + eachKey * keys.size()) && WaitFor(shown, nextTry);
   });
   EXPECT_TRUE(taken) << "the list \"" << place.label << "\" does not take " << item;
 }
@@ -309,7 +320,7 @@ void Stage::TabTo(const std::function<bool(const Widget&)>& isWidget) {
     if (std::any_of(widgets.begin(), widgets.end(), isThere)) return;
     const std::string before = FocusOf(widgets);
     desktop().Press({"Tab"});
-    WaitFor([&] { return FocusOf(desktop().Widgets()) != before; }, std::chrono::seconds(3));
+    WaitFor([&] { return FocusOf(desktop().Widgets()) != before; }, nextTry);
   }
   ADD_FAILURE() << "the keyboard does not get there; it is in " << FocusOf(desktop().Widgets());
 }
@@ -335,7 +346,8 @@ void Stage::StepInList(const ListPlace& place, int index, std::string_view item)
 }
 
 bool Stage::IsEnabled(std::string_view role, std::string_view name) {
-  const std::optional<Widget> found = desktop().Find(role, name);
+  std::optional<Widget> found;
+  WaitFor([&] { return (found = desktop().Find(role, name)).has_value(); });
   EXPECT_TRUE(found) << "no " << role << " \"" << name << "\"";
   return found && found->enabled;
 }
@@ -414,7 +426,7 @@ void Stage::CloseTool() {
   // A key that comes while the window manager is busy with the focus is lost.
   WaitFor([this] {
     desktop().Press({"alt+F4"});
-    return WaitFor([this] { return !tool().Running(); }, std::chrono::seconds(3));
+    return WaitFor([this] { return !tool().Running(); }, nextTry);
   });
   EXPECT_EQ(tool().AwaitEnd(), 0) << tool().Output();
 }

@@ -67,6 +67,8 @@ class Stage : public ::testing::Test {
   void DoubleClickOn(std::string_view role, std::string_view name) {
     desktop().DoubleClick(AwaitStill(role, name));
   }
+  // Waits for a message box with that text, and presses its button until it is gone.
+  void DismissMessage(std::string_view text);
   void OpenMenu(std::string_view menu);
   // Opens a menu of the bar and picks an entry of it.
   void ClickOnEntry(std::string_view menu, std::string_view entry);
@@ -142,7 +144,7 @@ class Stage : public ::testing::Test {
  private:
   void KeepTraces();
   // Gives whether its items come, or go, soon.
-  bool AwaitOpen(const Widget& list, bool open);
+  bool AwaitOpen(const Widget& list, bool open, std::chrono::milliseconds limit);
 
   std::filesystem::path scratch_;
   const Captions* captions_ = &dutch;
