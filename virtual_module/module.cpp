@@ -10,8 +10,8 @@ namespace virtual_module {
 namespace {
 
 constexpr Thirds pollPeriod = Milliseconds(50);
-// The tool drops what has come in by the end of its burst, so the answer waits for a quiet line, for
-// longer than a busy machine takes the processor from the tool in between.
+// The tool drops what has come in by the end of its burst, so the answer waits for a quiet line,
+// for longer than a busy machine takes the processor from the tool in between.
 constexpr Thirds burstQuiet = Milliseconds(150);
 // A tool that has to make a window for the answer first is slow on such a machine.
 constexpr Thirds commandPatience = Milliseconds(10'000);
