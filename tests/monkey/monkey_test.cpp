@@ -122,6 +122,30 @@ class MonkeyTest : public SessionTest {
     }
   }
 
+  /// Whatever chance brings later: once into every screen of every kind.
+  void VisitEveryScreen() {
+    constexpr int edits = 20;
+    for (const int kind : AllKinds) {
+      for (std::size_t action = 0;; ++action) {
+        Plug(kind, std::nullopt, static_cast<std::uint32_t>(random_()));
+        // An image in memory takes a module of its own kind only.
+        Do([&] { MainWindow.nieuw.Click(); });
+        Do([&] { MainWindow.connect.Click(); });
+        Finish();
+        ASSERT_EQ(ActiveModuleType.Number(), kind) << "behind action " << action;
+        const std::vector<ButtonField*> shown = ShownActions();
+        if (action == shown.size()) break;
+        Do([&] { shown[action]->Click(); });
+        Finish();
+        for (int edit = 0; edit < edits && Front() != &MainWindow; ++edit) {
+          Edit();
+          CheckFile();
+        }
+        LeaveAll();
+      }
+    }
+  }
+
   void Act() {
     const int choice = Below(100);
     if (messages.asked && choice < 50) {
@@ -135,6 +159,8 @@ class MonkeyTest : public SessionTest {
       Wait();
     } else if (choice < 16) {
       Do([&] { Front()->Close(); });
+    } else if (choice < 22 && Front() == &MainWindow) {
+      PressAnyAction();
     } else {
       Edit();
     }
@@ -185,6 +211,35 @@ class MonkeyTest : public SessionTest {
     }
   }
 
+  static std::vector<ButtonField*> ShownActions() {
+    std::vector<ButtonField*> shown;
+    for (const auto& button : MainWindow.actionButtons) {
+      if (button->visible) shown.push_back(button.get());
+    }
+    return shown;
+  }
+
+  void LeaveAll() {
+    while (Front() != &MainWindow) {
+      if (messages.asked) std::exchange(messages.asked, nullptr)(true);
+      Do([&] { Front()->Close(); });
+      Finish();
+    }
+    if (TransferUnderWay) PullAdapter();
+  }
+
+  /// The few buttons that open the screens, among all that the main window has. Mostly the module
+  /// is there that a table may have to be read from before.
+  void PressAnyAction() {
+    const std::vector<ButtonField*> shown = ShownActions();
+    if (shown.empty()) return;
+    ButtonField* button = shown[static_cast<std::size_t>(Below(static_cast<int>(shown.size())))];
+    const int kind = static_cast<int>(ActiveModuleType.Number());
+    if (Below(4) != 0 && FindKind(kind) != nullptr) PlugKind(kind);
+    Do([&] { button->Click(); });
+    if (Below(4) != 0) Finish();
+  }
+
   void Wait() {
     constexpr int longest = 4000;
     const int wait = Below(4) == 0 ? longest : 50;
@@ -203,8 +258,13 @@ class MonkeyTest : public SessionTest {
       return;
     }
     PlugAny();
+    if (Below(2) == 0) Do([&] { MainWindow.nieuw.Click(); });
     Do([&] { MainWindow.connect.Click(); });
-    constexpr int enough = 120'000;
+    Finish();
+  }
+
+  void Finish() {
+    constexpr int enough = 30'000;  // for the longest table
     Do([&] { clock.RunUntil([] { return !TransferUnderWay; }, enough); }, true);
   }
 
@@ -227,10 +287,10 @@ class MonkeyTest : public SessionTest {
         PlugAny();
         break;
       case 2:
-        files.full = !files.full;
+        files.full = Below(4) == 0;
         break;
       case 3:
-        line.canOpen = !line.canOpen;
+        line.canOpen = Below(4) != 0;
         break;
       default: {
         const bool language = Below(2) == 0;
@@ -245,11 +305,12 @@ class MonkeyTest : public SessionTest {
     directories.tries.clear();
   }
 
-  void PlugAny() {
+  void PlugAny() { PlugKind(AllKinds[Below(static_cast<int>(std::size(AllKinds)))]); }
+
+  void PlugKind(int kind) {
     line.failed = false;
     const auto faults = virtual_module::Faults();
     const auto fault = static_cast<std::size_t>(Below(3 * static_cast<int>(faults.size())));
-    const int kind = AllKinds[Below(static_cast<int>(std::size(AllKinds)))];
     Plug(kind, fault < faults.size() ? std::optional(faults[fault].fault) : std::nullopt,
          static_cast<std::uint32_t>(random_()));
   }
@@ -280,6 +341,8 @@ TEST_F(MonkeyTest, NothingThatAnybodyDoesBreaksTheTool) {
   const std::uint64_t actions = FromEnvironment("BKCONF_MONKEY_ACTIONS", enough);
   const std::uint64_t seed = FromEnvironment("BKCONF_MONKEY_SEED", 1);
   std::cout << "seed " << seed << '\n';
+  VisitEveryScreen();
+  ASSERT_FALSE(HasFailure()) << "seed " << seed << ", at first";
   for (std::uint64_t action = 0; action < actions; ++action) {
     Act();
     CheckFile();
